@@ -1,0 +1,27 @@
+# orvane_sources(OUT dir...): every header and source of the given folders
+function(orvane_sources out)
+  set(files)
+  foreach(dir ${ARGN})
+    file(GLOB found CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${dir}/*.cpp ${CMAKE_SOURCE_DIR}/${dir}/*.h)
+    list(APPEND files ${found})
+  endforeach()
+  set(${out} ${files} PARENT_SCOPE)
+endfunction()
+
+# orvane_test(NAME name SOURCES files... [WIDGETS]): one QtTest executable, registered in CTest
+function(orvane_test)
+  cmake_parse_arguments(T "WIDGETS" "NAME" "SOURCES" ${ARGN})
+  add_executable(${T_NAME} ${T_SOURCES})
+  set_target_properties(${T_NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_include_directories(${T_NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  if(T_WIDGETS)
+    target_link_libraries(${T_NAME} PRIVATE orvane_ui Qt6::Test)
+    add_test(NAME ${T_NAME} COMMAND ${T_NAME})
+    set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  else()
+    target_link_libraries(${T_NAME} PRIVATE orvane_core Qt6::Test)
+    add_test(NAME ${T_NAME} COMMAND ${T_NAME})
+  endif()
+  # tests that read the Resources tree run where the game runs
+  set_tests_properties(${T_NAME} PROPERTIES WORKING_DIRECTORY ${CMAKE_BINARY_DIR}/bin LABELS "${T_LABEL}")
+endfunction()

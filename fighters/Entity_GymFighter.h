@@ -1,0 +1,50 @@
+#pragma once
+
+#include "fighters/Entity_Fighter.h"
+
+#include <array>
+
+// A man under the user's roof for good: the fighter record with a second block of what only
+// the gym's own men have.
+class Entity_GymFighter : public Entity_Fighter
+{
+public:
+    static constexpr int SkillCount = 48;
+    static constexpr int ExtraCount = 7;              // learning speed ... fight purse
+    static constexpr int ProgressCount = SkillCount + 1; // the 48 counters, then the plan
+
+    // rolls learning speed, the reserve roll and marketability; everything else is empty
+    Entity_GymFighter();
+    // the same man as a gym fighter, with fresh rolls for the second block
+    explicit Entity_GymFighter(const Entity_Fighter &fighter);
+
+    int learningSpeed = 0;    // 0 Slow, 1 Average, 2 Fast
+    int reserveRoll = 0;      // rolled and kept; no rule reads it
+    int marketability = 0;    // 0 to 4
+    int fatigueBand = 0;      // 0 to 4, follows fatigue
+    int fatigue = 0;          // 0 to 100
+    int reputationPoints = 0; // 0 to 1000
+    int fightPurse = 0;       // what the gym gets for a fight under the present contract
+    std::array<int, SkillCount> skillProgress{};
+    int trainingPlan = 0; // 0 to 21
+    QStringList trainingLog;
+
+    Entity_Fighter fighter() const { return *this; }
+
+    using Entity_Fighter::setContract;
+    void setContract(const QString &organisation, int fightsLeft, int purse);
+    void contract(QString &organisation, int &fightsLeft, int &purse) const;
+
+    // stores the age that he has on `date`; gives the age he had before
+    int advanceAge(const QDate &date);
+
+    QList<int> extras() const;   // the seven values in stream order
+    QList<int> progress() const; // the 48 counters, then the plan
+    // nothing is checked: the lists must hold 7 and 49 entries
+    void unpackExtras(const QList<int> &seven, const QList<int> &fortyNine, const QStringList &log);
+
+    bool operator==(const Entity_GymFighter &other) const;
+};
+
+QDataStream &operator<<(QDataStream &out, const Entity_GymFighter &fighter);
+QDataStream &operator>>(QDataStream &in, Entity_GymFighter &fighter);

@@ -1,0 +1,8 @@
+#pragma once
+
+// The user's manager.
+class Entity_Manager
+{
+public:
+    Entity_Manager() = default;
+};

@@ -1,0 +1,27 @@
+#include "shell/ScreenFactory.h"
+
+#include "screens/Module_Placeholder.h"
+#include "shell/TopMenuBar.h"
+
+#include <array>
+
+namespace {
+
+// screens of the game that are still being built show their name and nothing else
+constexpr std::array<const char *, TopMenuBar::ButtonCount> screenNames{
+    "Profile", "Training", "Management", "Events", "Database", "Organizations",
+    "Next Day", "Save/Load", "How To Play", "Main Menu"};
+
+} // namespace
+
+QWidget *ScreenFactory::build(int buttonId)
+{
+    if (buttonId < 0 || buttonId >= TopMenuBar::ButtonCount)
+        buttonId = TopMenuBar::Profile;
+    return new Module_Placeholder(screenNames[buttonId]);
+}
+
+QWidget *ScreenFactory::buildNextDay()
+{
+    return new Module_Placeholder(screenNames[TopMenuBar::NextDay]);
+}

@@ -1,0 +1,114 @@
+#include "shell/TopMenuBar.h"
+
+#include "screens/Module_MainMenu.h"
+#include "shell/ConfirmDialog.h"
+#include "shell/ModuleManager.h"
+#include "shell/ScreenFactory.h"
+#include "shell/StyleSheetFile.h"
+#include "world/GameManager.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace {
+
+struct ButtonRow {
+    const char *objectName;
+    const char *toolTip;
+    void (TopMenuBar::*slot)();
+};
+
+constexpr std::array<ButtonRow, TopMenuBar::ButtonCount> buttonTable{{
+    {"profile_module_btn", "Profile", &TopMenuBar::changeScreenProfile},
+    {"training_module_btn", "Training", &TopMenuBar::changeScreenTraining},
+    {"management_module_btn", "Management", &TopMenuBar::changeScreenManagement},
+    {"events_module_btn", "Events", &TopMenuBar::changeScreenEvents},
+    {"fighterdb_module_btn", "Database", &TopMenuBar::changeScreenDatabase},
+    {"org_module_btn", "Organizations", &TopMenuBar::changeScreenOrgs},
+    {"next_day_btn", "Next Day", &TopMenuBar::changeScreenNextDay},
+    {"save_module_btn", "Save/Load", &TopMenuBar::changeScreenSaveLoad},
+    {"help_module_btn", "How To Play", &TopMenuBar::changeScreenHelp},
+    {"back_mainmenu_btn", "Back To Main Menu", &TopMenuBar::changeScreenMainMenu},
+}};
+
+} // namespace
+
+TopMenuBar::TopMenuBar(QWidget *parent)
+    : QWidget(parent)
+{
+    for (int id = 0; id < ButtonCount; ++id) {
+        buttons[id] = new QPushButton(this);
+        buttons[id]->setToolTip(buttonTable[id].toolTip);
+        buttons[id]->setObjectName(buttonTable[id].objectName);
+    }
+    setDefaultStyleSheet();
+    auto *row = new QHBoxLayout(this);
+    row->addStretch(30);
+    for (int id = 0; id < ButtonCount; ++id) {
+        buttons[id]->setFixedSize(70, 70);
+        connect(buttons[id], &QPushButton::clicked, this, buttonTable[id].slot);
+        row->addWidget(buttons[id]);
+    }
+    row->addStretch(30);
+    row->setSpacing(15);
+}
+
+void TopMenuBar::paintEvent(QPaintEvent *)
+{
+    StyleSheetFile::paintBackground(this);
+}
+
+void TopMenuBar::setDefaultStyleSheet()
+{
+    StyleSheetFile::apply(this, "TopMenuStyle.css");
+}
+
+void TopMenuBar::flattenButtons(int id)
+{
+    unflattenButtons();
+    if (id >= 0 && id < ButtonCount)
+        buttons[id]->setFlat(true);
+}
+
+void TopMenuBar::unflattenButtons()
+{
+    for (QPushButton *button : buttons)
+        button->setFlat(false);
+}
+
+void TopMenuBar::changeScreen(ButtonID id)
+{
+    flattenButtons(id);
+    screen = id;
+    ModuleManager::instance().changeModule(ScreenFactory::build(id));
+}
+
+void TopMenuBar::changeScreenProfile() { changeScreen(Profile); }
+void TopMenuBar::changeScreenTraining() { changeScreen(Training); }
+void TopMenuBar::changeScreenManagement() { changeScreen(Management); }
+void TopMenuBar::changeScreenEvents() { changeScreen(Events); }
+void TopMenuBar::changeScreenDatabase() { changeScreen(Database); }
+void TopMenuBar::changeScreenOrgs() { changeScreen(Orgs); }
+void TopMenuBar::changeScreenSaveLoad() { changeScreen(SaveLoad); }
+void TopMenuBar::changeScreenHelp() { changeScreen(Help); }
+
+void TopMenuBar::changeScreenNextDay()
+{
+    ModuleManager::instance().hideTopMenu();
+    ModuleManager::instance().changeModule(ScreenFactory::buildNextDay());
+}
+
+void TopMenuBar::changeScreenMainMenu()
+{
+    if (!ConfirmDialog::ask("Are you sure you want to return to the main menu? \nAny unsaved progress will be lost."))
+        return;
+    ModuleManager::instance().hideTopMenu();
+    GameManager::instance().resetWorld();
+    ModuleManager::instance().changeModule(new Module_MainMenu);
+}
+
+void TopMenuBar::returnToCurrentScreen()
+{
+    const bool plainScreen = screen >= Profile && screen <= Help && screen != NextDay;
+    ModuleManager::instance().changeModule(ScreenFactory::build(plainScreen ? ButtonID(screen) : Profile));
+}

@@ -1,0 +1,326 @@
+#include "fighters/Entity_Fighter.h"
+#include "fighters/Entity_GymFighter.h"
+#include "fighters/FighterTraits.h"
+#include "fighters/Random.h"
+#include "fighters/StreamForm.h"
+
+#include <QBuffer>
+#include <QtTest>
+
+using F = Entity_Fighter;
+
+namespace {
+
+template <typename Record>
+QByteArray streamed(const Record &record)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    out << record;
+    return bytes;
+}
+
+template <typename Record>
+Record readBack(const QByteArray &bytes, QDataStream::Status *status = nullptr)
+{
+    QDataStream in(bytes);
+    in.setVersion(StreamForm::version);
+    Record record;
+    in >> record;
+    if (status)
+        *status = in.status();
+    return record;
+}
+
+Entity_Fighter sampleFighter()
+{
+    Entity_Fighter fighter;
+    for (int i = 0; i < F::TextCount; ++i)
+        fighter.setText(F::Text(i), QString("text %1").arg(i));
+    for (int i = 0; i < F::NumberCount; ++i)
+        fighter.setNumber(F::Number(i), i * 7 - 50);
+    fighter.setBirthDate(QDate(1993, 2, 28));
+    fighter.addHistoryEntry(QDate(2011, 3, 5), "Win vs. A");
+    fighter.addHistoryEntry(QDate(2011, 3, 5), "Loss vs. B");
+    fighter.addHistoryEntry(QDate(2011, 1, 9), "Win vs. C");
+    fighter.setTitleList({"G1 World Championship|2011", "Old belt"});
+    return fighter;
+}
+
+} // namespace
+
+class tst_FighterRecord : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Random::useTestClock(7); }
+
+    // The bytes of a version 12 stream, written out by hand: a save that differs by one byte from
+    // what the game wrote before cannot be read back.
+    void streamsTheOldBytes()
+    {
+        Entity_Fighter fighter;
+        fighter.setText(F::FirstName, "Al");
+        fighter.setText(F::LastName, "");
+        fighter.setNumber(F::Age, 18);
+        fighter.setNumber(F::RankingScore, -2);
+        fighter.setBirthDate(QDate(2000, 1, 1));
+        fighter.addHistoryEntry(QDate(2000, 1, 1), "A");
+        fighter.addHistoryEntry(QDate(2000, 1, 1), "B");
+        fighter.addHistoryEntry(QDate(2000, 1, 2), "C");
+        fighter.setTitleList({"T"});
+
+        QByteArray expected;
+        expected += QByteArray::fromHex("0000000c");                 // twelve strings
+        expected += QByteArray::fromHex("00000004" "0041006c");      // "Al", UTF-16 big-endian
+        expected += QByteArray::fromHex("00000000");                 // "" is empty, not null
+        for (int i = 2; i < F::TextCount; ++i)
+            expected += QByteArray::fromHex("ffffffff");             // null strings
+        expected += QByteArray::fromHex("0000005f");                 // 95 integers
+        expected += QByteArray::fromHex("00000012");                 // age 18
+        expected += QByteArray(93 * 4, '\0');
+        expected += QByteArray::fromHex("fffffffe");                 // ranking score -2
+        expected += QByteArray::fromHex("00256859");                 // Julian day of 1 January 2000
+        // three history lines, the map walked from its end; of two lines of one date the newer
+        // stands first in the map, so the older goes out first
+        expected += QByteArray::fromHex("00000003");
+        expected += QByteArray::fromHex("0025685a" "00000002" "0043");
+        expected += QByteArray::fromHex("00256859" "00000002" "0041");
+        expected += QByteArray::fromHex("00256859" "00000002" "0042");
+        expected += QByteArray::fromHex("00000001" "00000002" "0054"); // titles: "T"
+        const QByteArray actual = streamed(fighter);
+        qsizetype firstDifference = 0;
+        while (firstDifference < qMin(actual.size(), expected.size()) && actual[firstDifference] == expected[firstDifference])
+            ++firstDifference;
+        QCOMPARE(actual.mid(firstDifference).toHex(), expected.mid(firstDifference).toHex());
+    }
+
+    void packUnpackStreamKeepEveryField()
+    {
+        const Entity_Fighter fighter = sampleFighter();
+        QStringList strings;
+        QList<int> integers;
+        QDate birth;
+        F::History history;
+        QStringList titles;
+        fighter.pack(strings, integers, birth, history, titles);
+        QCOMPARE(strings.size(), int(F::TextCount));
+        QCOMPARE(integers.size(), int(F::NumberCount));
+
+        Entity_Fighter copy;
+        copy.unpack(strings, integers, birth, history, titles);
+        QVERIFY(copy == fighter);
+        // two matches on one date both stay, in their order
+        QCOMPARE(copy.history().values(QDate(2011, 3, 5)), fighter.history().values(QDate(2011, 3, 5)));
+        QCOMPARE(copy.history().size(), 3);
+
+        const Entity_Fighter streamedCopy = readBack<Entity_Fighter>(streamed(fighter));
+        QVERIFY(streamedCopy == fighter);
+        QCOMPARE(streamed(streamedCopy), streamed(fighter));
+    }
+
+    void gymFighterCarriesItsSecondBlock()
+    {
+        Entity_GymFighter fighter(sampleFighter());
+        fighter.fatigue = 40;
+        fighter.reputationPoints = 999;
+        fighter.setContract("Genesis", 3, 12000);
+        fighter.skillProgress[0] = 199;
+        fighter.skillProgress[47] = -149;
+        fighter.trainingPlan = 21;
+        fighter.trainingLog = {"Monday", "Tuesday"};
+
+        const QByteArray bytes = streamed(fighter);
+        // the plain record first, then 7 and 49 integers and the log
+        QVERIFY(bytes.startsWith(streamed(fighter.fighter())));
+        QCOMPARE(bytes.mid(streamed(fighter.fighter()).size(), 4), QByteArray::fromHex("00000007"));
+
+        const auto copy = readBack<Entity_GymFighter>(bytes);
+        QVERIFY(copy == fighter);
+        QString organisation;
+        int fightsLeft = 0;
+        int purse = 0;
+        copy.contract(organisation, fightsLeft, purse);
+        QCOMPARE(organisation, QString("Genesis"));
+        QCOMPARE(fightsLeft, 3);
+        QCOMPARE(purse, 12000);
+    }
+
+    void shortOrForeignStreamLeavesTheRecord_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray whole = streamed(sampleFighter());
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut in the integers") << whole.left(300);
+        QTest::newRow("cut in the titles") << whole.left(whole.size() - 3);
+        QByteArray elevenStrings = whole;
+        elevenStrings[3] = 11;
+        QTest::newRow("eleven strings") << elevenStrings;
+        QTest::newRow("four billion titles") << whole.left(whole.size() - 62) + QByteArray::fromHex("fffffff0");
+    }
+
+    void shortOrForeignStreamLeavesTheRecord()
+    {
+        QFETCH(QByteArray, bytes);
+        QDataStream in(bytes);
+        in.setVersion(StreamForm::version);
+        Entity_Fighter fighter = sampleFighter();
+        in >> fighter;
+        QVERIFY(in.status() != QDataStream::Ok);
+        QVERIFY(fighter == sampleFighter());
+    }
+
+    void clampKeepsAttributesInRange()
+    {
+        Entity_Fighter fighter;
+        fighter.setNumber(F::JabSpeed, 130);
+        fighter.setNumber(F::Discipline, -4);
+        fighter.setNumber(F::Composure, 99);
+        fighter.setNumber(F::Age, 120);
+        fighter.setNumber(F::HeadDurability, 150);
+        fighter.setNumber(F::RankingScore, -30);
+        fighter.clampAttributes();
+        QCOMPARE(fighter.number(F::JabSpeed), 99);
+        QCOMPARE(fighter.number(F::Discipline), 0);
+        QCOMPARE(fighter.number(F::Composure), 99);
+        // only the 83 attributes are held in range
+        QCOMPARE(fighter.number(F::Age), 120);
+        QCOMPARE(fighter.number(F::HeadDurability), 150);
+        QCOMPARE(fighter.number(F::RankingScore), -30);
+    }
+
+    void birthdayAddsAYear_data()
+    {
+        QTest::addColumn<QDate>("born");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("on the day") << QDate(1990, 6, 15) << QDate(2012, 6, 15) << 23;
+        QTest::newRow("the day before") << QDate(1990, 6, 15) << QDate(2012, 6, 14) << 22;
+        QTest::newRow("leap day in a leap year") << QDate(1992, 2, 29) << QDate(2012, 2, 29) << 23;
+        QTest::newRow("leap day in another year") << QDate(1992, 2, 29) << QDate(2013, 2, 28) << 22;
+    }
+
+    void birthdayAddsAYear()
+    {
+        QFETCH(QDate, born);
+        QFETCH(QDate, day);
+        QFETCH(int, expected);
+        Entity_GymFighter fighter;
+        fighter.setBirthDate(born);
+        fighter.setNumber(F::Age, 22);
+        int oldAge = 0;
+        QCOMPARE(fighter.ageWithBirthday(day, &oldAge), expected);
+        QCOMPARE(oldAge, 22);
+        QCOMPARE(fighter.number(F::Age), 22);
+        QCOMPARE(fighter.advanceAge(day), 22);
+        QCOMPARE(fighter.number(F::Age), expected);
+    }
+
+    // each trait moves exactly the attributes it names, by 1 to 7, up or down
+    void traitMovesItsAttributes_data()
+    {
+        QTest::addColumn<QString>("trait");
+        QTest::addColumn<QList<int>>("raised");
+        QTest::addColumn<QList<int>>("lowered");
+        QList<int> powers, speeds, defenceTechniques;
+        for (int i = 0; i < F::StrikeCount; ++i) {
+            powers << F::strikePower(i);
+            speeds << F::strikeSpeed(i);
+        }
+        for (int i = 0; i < F::DefenceCount; ++i)
+            defenceTechniques << F::defenceTechnique(i);
+        QTest::newRow("Hard Hitter") << "Hard Hitter" << powers << QList<int>{};
+        QTest::newRow("Weak Hitter") << "Weak Hitter" << QList<int>{} << powers;
+        QTest::newRow("Slow Attack") << "Slow Attack" << QList<int>{} << speeds;
+        QTest::newRow("Excellent Defense Technique") << "Excellent Defense Technique" << defenceTechniques
+                                                     << QList<int>{};
+        QTest::newRow("Tough") << "Tough"
+                               << QList<int>{F::Resilience, F::Endurance, F::Durability, F::Willpower}
+                               << QList<int>{};
+        QTest::newRow("Easily Rattled") << "Easily Rattled" << QList<int>{}
+                                        << QList<int>{F::Willpower, F::Concentration, F::RingSense, F::Discipline};
+        QTest::newRow("Natural Attacker") << "Natural Attacker"
+                                          << QList<int>{F::PunchPower, F::Aggression, F::Ferocity, F::Precision}
+                                          << QList<int>{};
+        QTest::newRow("Natural Defender is no mirror")
+            << "Natural Defender" << QList<int>{F::Awareness, F::Instinct, F::Anticipation}
+            << QList<int>{F::Ferocity};
+    }
+
+    void traitMovesItsAttributes()
+    {
+        QFETCH(QString, trait);
+        QFETCH(QList<int>, raised);
+        QFETCH(QList<int>, lowered);
+        Entity_Fighter fighter;
+        for (int i = F::FirstAttribute; i <= F::LastAttribute; ++i)
+            fighter.setNumber(F::Number(i), 50);
+        FighterTraits::apply(fighter, trait);
+        for (int i = F::FirstAttribute; i <= F::LastAttribute; ++i) {
+            const int change = fighter.number(F::Number(i)) - 50;
+            if (raised.contains(i))
+                QVERIFY2(change >= 1 && change <= 7, qPrintable(QString::number(i)));
+            else if (lowered.contains(i))
+                QVERIFY2(change <= -1 && change >= -7, qPrintable(QString::number(i)));
+            else
+                QCOMPARE(change, 0);
+        }
+    }
+
+    void bioShowsWhatTheScoutCanSee_data()
+    {
+        QTest::addColumn<QStringList>("traits");
+        QTest::addColumn<int>("seer");
+        QTest::addColumn<QString>("bio");
+        const QStringList three = {"Ring General", "Tough", "Fast Defense"};
+        QTest::newRow("no traits") << QStringList{} << 10 << "New Fighter";
+        QTest::newRow("a world fighter sees all") << three << 10 << "New Fighter\nRing General\nTough\nFast Defense\n";
+        QTest::newRow("intuition 4") << three << 4 << "New Fighter\nTough\nFast Defense\n";
+        QTest::newRow("intuition 0 still breaks the line") << three << 0 << "New Fighter\n";
+        QTest::newRow("attacker from 8") << QStringList{"Natural Attacker"} << 8 << "New Fighter\nNatural Attacker\n";
+        QTest::newRow("attacker hidden at 7") << QStringList{"Natural Attacker"} << 7 << "New Fighter\n";
+    }
+
+    void bioShowsWhatTheScoutCanSee()
+    {
+        QFETCH(QStringList, traits);
+        QFETCH(int, seer);
+        QFETCH(QString, bio);
+        QCOMPARE(FighterTraits::bio(traits, seer), bio);
+    }
+
+    void drawGivesOddCountsOfDifferentTraits()
+    {
+        QSet<int> counts;
+        for (int i = 0; i < 500; ++i) {
+            Random::seedFromClock(i);
+            const QStringList traits = FighterTraits::draw();
+            QVERIFY(traits.isEmpty() || traits.size() % 2 == 1);
+            QCOMPARE(QSet<QString>(traits.cbegin(), traits.cend()).size(), traits.size());
+            for (const QString &trait : traits)
+                QVERIFY(FighterTraits::drawList().contains(trait));
+            counts.insert(traits.size());
+        }
+        QCOMPARE(counts, (QSet<int>{0, 1, 3, 5, 7}));
+    }
+
+    void gymFighterRollsItsFirstBlock()
+    {
+        QSet<int> speeds, marketabilities;
+        for (int i = 0; i < 200; ++i) {
+            Entity_GymFighter fighter;
+            QVERIFY(fighter.learningSpeed >= 0 && fighter.learningSpeed <= 2);
+            QVERIFY(fighter.marketability >= 0 && fighter.marketability <= 4);
+            QCOMPARE(fighter.fatigue + fighter.trainingPlan + fighter.fightPurse, 0);
+            speeds.insert(fighter.learningSpeed);
+            marketabilities.insert(fighter.marketability);
+        }
+        QCOMPARE(speeds.size(), 3);
+        QCOMPARE(marketabilities.size(), 5);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_FighterRecord)
+#include "tst_fighterrecord.moc"

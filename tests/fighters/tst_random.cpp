@@ -1,0 +1,122 @@
+#include "fighters/Random.h"
+
+#include <QtTest>
+
+namespace {
+
+QList<int> drawSequence(int count)
+{
+    QList<int> values;
+    for (int i = 0; i < count; ++i) {
+        Random::seedFromClock(i % 3);
+        values.append(qrand());
+    }
+    return values;
+}
+
+} // namespace
+
+class tst_Random : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Random::useRealClock(); }
+
+    void testClockRepeatsItself()
+    {
+        Random::useTestClock(42);
+        const QList<int> first = drawSequence(1000);
+        Random::useTestClock(42);
+        QCOMPARE(drawSequence(1000), first);
+        Random::useTestClock(43);
+        QVERIFY(drawSequence(1000) != first);
+    }
+
+    void realClockVaries()
+    {
+        Random::useRealClock();
+        QSet<int> values;
+        for (int i = 0; i < 200; ++i) {
+            QTest::qWait(0);
+            values.insert(drawSequence(1).first());
+        }
+        QVERIFY(values.size() > 10);
+    }
+
+    // qsrand() restarts the generator: the same seed gives the same numbers
+    void seedRestartsTheGenerator()
+    {
+        qsrand(12345);
+        const int a = qrand();
+        const int b = qrand();
+        qsrand(12345);
+        QCOMPARE(qrand(), a);
+        QCOMPARE(qrand(), b);
+        QVERIFY(a >= 0 && b >= 0);
+    }
+
+    void stirOfNothingLeavesTheGenerator()
+    {
+        Random::useTestClock(5);
+        qsrand(99);
+        Random::stir(0);
+        const int afterNoStir = qrand();
+        qsrand(99);
+        QCOMPARE(qrand(), afterNoStir);
+        qsrand(99);
+        Random::stir(3);
+        QVERIFY(qrand() != afterNoStir);
+    }
+
+    void rollsStayInTheirRange_data()
+    {
+        QTest::addColumn<int>("n");
+        QTest::newRow("d1") << 1;
+        QTest::newRow("d2") << 2;
+        QTest::newRow("d3") << 3;
+        QTest::newRow("d100") << 100;
+        QTest::newRow("range 0 held at 1") << 0;
+        QTest::newRow("negative range held at 1") << -5;
+    }
+
+    void rollsStayInTheirRange()
+    {
+        QFETCH(int, n);
+        Random::useTestClock(1);
+        const int top = qMax(n, 1);
+        QSet<int> seenD, seenU, seenSigned;
+        for (int i = 0; i < 5000; ++i) {
+            Random::seedFromClock();
+            const int dn = Random::d(n);
+            const int un = Random::u(n);
+            const int sn = Random::signedD(n);
+            QVERIFY(dn >= 1 && dn <= top);
+            QVERIFY(un >= 0 && un < top);
+            QVERIFY(qAbs(sn) >= 1 && qAbs(sn) <= top);
+            seenD.insert(dn);
+            seenU.insert(un);
+            seenSigned.insert(sn);
+        }
+        QCOMPARE(seenD.size(), top);
+        QCOMPARE(seenU.size(), top);
+        QCOMPARE(seenSigned.size(), 2 * top);
+    }
+
+    // a line is picked from five by d100 % 5: each must come up about as often as the others
+    void clockSeededDrawsAreEven()
+    {
+        Random::useTestClock(2011);
+        std::array<int, 5> counts{};
+        const int draws = 100000;
+        for (int i = 0; i < draws; ++i) {
+            Random::seedFromClock();
+            ++counts[Random::d(100) % 5];
+        }
+        for (int count : counts)
+            QVERIFY2(qAbs(count - draws / 5) <= draws / 5 / 20, qPrintable(QString::number(count)));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Random)
+#include "tst_random.moc"

@@ -1,0 +1,126 @@
+#include "common/DialogAnswer.h"
+#include "screens/Module_MainMenu.h"
+#include "shell/ModuleManager.h"
+#include "shell/TopMenuBar.h"
+#include "world/GameManager.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QPushButton *menuButton(const QString &text)
+{
+    for (QPushButton *button : ModuleManager::instance().currentModule()->findChildren<QPushButton *>())
+        if (button->text() == text)
+            return button;
+    return nullptr;
+}
+
+} // namespace
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // the game runs beside its Resources; here a bare folder shows that nothing is required
+        QVERIFY(bare.isValid());
+        QDir::setCurrent(bare.path());
+        ModuleManager::instance().initialize();
+    }
+
+    void windowIsFixedAndTitled()
+    {
+        QWidget *window = ModuleManager::instance().mainWindow();
+        QCOMPARE(window->size(), QSize(1100, 700));
+        QCOMPARE(window->minimumSize(), QSize(1100, 700));
+        QCOMPARE(window->maximumSize(), QSize(1100, 700));
+        QCOMPARE(window->windowTitle(), QString("Orvane - by Quillan Dray"));
+        QVERIFY(window->isVisible());
+    }
+
+    void startsOnTheMainMenuWithoutGame()
+    {
+        QVERIFY(qobject_cast<Module_MainMenu *>(ModuleManager::instance().currentModule()));
+        QVERIFY(!ModuleManager::instance().isTopMenuVisible());
+        QCOMPARE(GameManager::instance().getNextId(), 1058);
+        QCOMPARE(GameManager::instance().getCurrentDate(), QDate(2011, 1, 1));
+        // no picture and no style sheet: an empty label and an unstyled screen, no message
+        auto *title = ModuleManager::instance().currentModule()->findChild<QLabel *>();
+        QVERIFY(title && title->pixmap().isNull());
+        QVERIFY(ModuleManager::instance().currentModule()->styleSheet().isEmpty());
+        QVERIFY(!QApplication::activeModalWidget());
+        for (const char *text : {"New Game", "Load Game", "How To Play", "Exit Game"})
+            QVERIFY2(menuButton(text), text);
+    }
+
+    void styleSheetIsReadForEachScreen()
+    {
+        QFile sheet("StyleSheet.css");
+        QVERIFY(sheet.open(QIODevice::WriteOnly));
+        sheet.write("QWidget { color: #704018; }\0 trailing bytes after a NUL are not read", 70);
+        sheet.close();
+        ModuleManager::instance().changeModule(new Module_MainMenu);
+        QCOMPARE(ModuleManager::instance().currentModule()->styleSheet(), QString("QWidget { color: #704018; }"));
+        QFile::remove("StyleSheet.css");
+        ModuleManager::instance().changeModule(new Module_MainMenu);
+        QVERIFY(ModuleManager::instance().currentModule()->styleSheet().isEmpty());
+    }
+
+    // a screen replaced from inside its own button's slot is gone at once and freed safely
+    void screenReplacedFromItsOwnSlot()
+    {
+        QPointer<QWidget> before = ModuleManager::instance().currentModule();
+        menuButton("New Game")->click();
+        QVERIFY(ModuleManager::instance().currentModule() != before);
+        QVERIFY(!before || !before->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(before.isNull());
+        ModuleManager::instance().changeModule(new Module_MainMenu);
+    }
+
+    void quitCancelledKeepsTheMenu()
+    {
+        QWidget *menu = ModuleManager::instance().currentModule();
+        DialogAnswer cancel("Cancel");
+        menuButton("Exit Game")->click();
+        QVERIFY(cancel.answered);
+        QCOMPARE(cancel.question, QString("Are you sure you want to quit the game?"));
+        QCOMPARE(ModuleManager::instance().currentModule(), menu);
+        QVERIFY(ModuleManager::instance().mainWindow()->isVisible());
+    }
+
+    void mainMenuQuestionHasTwoLines()
+    {
+        ModuleManager::instance().showTopMenu();
+        DialogAnswer cancel("Cancel");
+        ModuleManager::instance().topMenu()->changeScreenMainMenu();
+        QCOMPARE(cancel.question.split('\n').size(), 2);
+        QVERIFY(cancel.question.startsWith("Are you sure you want to return to the main menu? "));
+        QVERIFY(ModuleManager::instance().isTopMenuVisible());
+        ModuleManager::instance().hideTopMenu();
+    }
+
+    // the last test: the accepted question ends the event loop with 0
+    void quitAcceptedEndsTheGame()
+    {
+        DialogAnswer accept("Accept");
+        QTimer::singleShot(0, [] { menuButton("Exit Game")->click(); });
+        // if the window stayed, this would end the loop with another value
+        QTimer::singleShot(5000, [] { QCoreApplication::exit(7); });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(accept.answered);
+        QVERIFY(!ModuleManager::instance().mainWindow());
+    }
+
+private:
+    QTemporaryDir bare;
+};
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_mainwindow.moc"
