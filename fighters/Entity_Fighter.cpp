@@ -110,3 +110,92 @@ QDataStream &operator>>(QDataStream &in, Entity_Fighter &fighter)
         fighter.unpack(strings, integers, birth, history, titles);
     return in;
 }
+
+// --- Career, reputation and skill levels ------------------------------------------------------
+
+#include "fighters/Random.h"
+#include "fighters/ReputationScale.h"
+#include "fighters/SkillTable.h"
+
+namespace {
+
+// the index of his open reign on `title`, -1 if he holds none
+qsizetype openReign(const QStringList &titles, const QString &title)
+{
+    for (qsizetype i = 0; i < titles.size(); ++i) {
+        if (titles[i].contains(title) && !titles[i].contains("until"))
+            return i;
+    }
+    return -1;
+}
+
+// a won earlier round of a tournament costs no fight: he fights on under the same contract entry
+bool usesUpContractOnWin(const QString &matchType)
+{
+    return matchType == QLatin1String("Single Match") || matchType == QLatin1String("Championship Match")
+        || matchType == QLatin1String("Tournament Final");
+}
+
+} // namespace
+
+void Entity_Fighter::addResult(const QDate &date, QString &result, const QString &matchType)
+{
+    const QString dateText = date.toString(Qt::TextDate);
+    const qsizetype bar = result.indexOf('|');
+    if (bar >= 0) {
+        QString title = result.mid(bar + 1);
+        result.truncate(bar);
+        const qsizetype reign = openReign(titles, title);
+        if (result.contains("Win")) {
+            if (reign < 0) {
+                result += " - Won " + title;
+                // a tournament title carries its year and needs no reign
+                if (!title.contains(QString::number(date.year())))
+                    title += " - from " + dateText;
+                titles.append(title);
+            } else {
+                result += " - Retained " + title;
+            }
+        } else if (result.contains("Loss") && reign >= 0) {
+            result += " - Lost " + title;
+            titles[reign] += " until " + dateText;
+        }
+    }
+    careerHistory.insert(date, result);
+
+    if (result.contains("Win")) {
+        ++numbers[Wins];
+        if (!result.contains("Decision"))
+            ++numbers[Kos];
+    } else if (result.contains("Loss")) {
+        ++numbers[Losses];
+    }
+
+    const bool comesOff = result.contains("Loss") || (result.contains("Win") && usesUpContractOnWin(matchType));
+    if (!comesOff)
+        return;
+    if (--numbers[ContractFightsLeft] < 1) {
+        // a champion whose contract runs out gives up his world title with it
+        const qsizetype reign = openReign(titles, "World Championship");
+        if (reign >= 0)
+            titles[reign] += " until " + dateText;
+        texts[Organisation] = "Free Agent";
+    }
+}
+
+void Entity_Fighter::updateReputationFromRanking()
+{
+    Random::seedFromClock();
+    const int spread = 1 + qrand() % 50;
+    const int sign = (qrand() % 45) % 2 == 0 ? 1 : -1;
+    const int value = numbers[RankingScore] + qrand() % 21 + sign * spread;
+    const QString label = ReputationScale::fromRanking(value);
+    if (!label.isEmpty())
+        texts[Reputation] = label;
+}
+
+void Entity_Fighter::moveSkillAttributes(int skill, int step)
+{
+    for (Number attribute : SkillTable::attributes(skill))
+        numbers[attribute] += step;
+}

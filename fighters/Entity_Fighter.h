@@ -164,6 +164,16 @@ public:
     // pack, stream and unpack give the same record
     bool operator==(const Entity_Fighter &other) const;
 
+    // --- Career, reputation and skill levels --------------------------------------------------
+    // Enters a match: the line goes into the history, the record counts up, a title is won,
+    // retained or lost, and a fight comes off the contract. `result` is extended by the title
+    // text (" - Won ", " - Retained ", " - Lost ").
+    void addResult(const QDate &date, QString &result, const QString &matchType);
+    // a world fighter's label, read loosely off his ranking score so that neighbours may differ
+    void updateReputationFromRanking();
+    // every attribute behind the skill moves by `step`; the caller clamps at the end of its change
+    void moveSkillAttributes(int skill, int step);
+
 private:
     std::array<QString, TextCount> texts;
     QDate birthDate;

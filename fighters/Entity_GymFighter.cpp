@@ -95,3 +95,117 @@ QDataStream &operator>>(QDataStream &in, Entity_GymFighter &fighter)
     }
     return in;
 }
+
+// --- Skill levels, match experience and reputation --------------------------------------------
+
+#include "fighters/ReputationScale.h"
+#include "fighters/SkillTable.h"
+
+namespace {
+
+// what a match adds to a skill's counter: a statistic of the engine, whole or halved
+struct MatchLesson {
+    SkillTable::Skill skill;
+    int statistic;
+    bool halved;
+};
+
+// strikes landed, blocks of head and body, dodges of head and body, counters of head and body
+constexpr MatchLesson matchLessons[] = {
+    {SkillTable::Jab, 6, false},
+    {SkillTable::Hook, 8, false},
+    {SkillTable::Cross, 10, false},
+    {SkillTable::Uppercut, 12, false},
+    {SkillTable::LowKick, 14, false},
+    {SkillTable::MidKick, 16, false},
+    {SkillTable::HighKick, 18, false},
+    {SkillTable::FrontKick, 20, false},
+    {SkillTable::Knee, 22, false},
+    {SkillTable::Elbow, 24, false},
+    {SkillTable::DirtyBoxing, 26, false},
+    {SkillTable::BodyPunch, 28, false},
+    {SkillTable::HeadGuard, 30, false},
+    {SkillTable::BodyGuard, 32, false},
+    {SkillTable::LegGuard, 32, true},
+    {SkillTable::DazedGuard, 30, true},
+    {SkillTable::HeadMovement, 34, false},
+    {SkillTable::BodyMovement, 36, false},
+    {SkillTable::Dodge, 34, true},
+    {SkillTable::Agility, 36, true},
+    {SkillTable::Counter, 38, false},
+    {SkillTable::DefensiveAwareness, 40, false},
+    {SkillTable::Focus, 38, true},
+    {SkillTable::Reaction, 40, true},
+};
+
+constexpr int KnockdownsGiven = 42;
+constexpr int KnockdownsTaken = 43;
+
+bool onSkillTable(int skill)
+{
+    return skill >= 0 && skill < SkillTable::Count;
+}
+
+} // namespace
+
+QString Entity_GymFighter::levelUp(int skill)
+{
+    if (!onSkillTable(skill))
+        return {};
+    moveSkillAttributes(skill, 1);
+    skillProgress[skill] = 0;
+    return SkillTable::name(skill) + " level up!";
+}
+
+QString Entity_GymFighter::levelDown(int skill)
+{
+    if (!onSkillTable(skill))
+        return {};
+    moveSkillAttributes(skill, -1);
+    skillProgress[skill] = 0;
+    return SkillTable::name(skill) + " level down.";
+}
+
+bool Entity_GymFighter::checkLevelUp(int skill, QStringList &report)
+{
+    if (!onSkillTable(skill) || skillProgress[skill] < SkillTable::LevelUpAt)
+        return false;
+    report.append(levelUp(skill));
+    return true;
+}
+
+bool Entity_GymFighter::checkLevelDown(int skill, QStringList &report)
+{
+    if (!onSkillTable(skill) || skillProgress[skill] > SkillTable::LevelDownAt)
+        return false;
+    report.append(levelDown(skill));
+    return true;
+}
+
+void Entity_GymFighter::addMatchExperience(const QList<int> &statistics, const QString &result)
+{
+    int base = statistics.value(KnockdownsGiven) - statistics.value(KnockdownsTaken);
+    if (result.contains("Win")) {
+        base += 5;
+        reputationPoints += 15 + 2 * marketability;
+    } else if (result.contains("Loss")) {
+        base += 1;
+        reputationPoints -= 2 * (5 - marketability) + 1;
+    }
+    reputationPoints = std::clamp(reputationPoints, 0, 1000);
+    updateReputationLabel();
+
+    for (const MatchLesson &lesson : matchLessons) {
+        const int landed = statistics.value(lesson.statistic);
+        skillProgress[lesson.skill] += (lesson.halved ? landed / 2 : landed) + base;
+        // the match levels up in silence; a counter below the floor waits for training
+        if (skillProgress[lesson.skill] >= SkillTable::LevelUpAt)
+            levelUp(lesson.skill);
+    }
+    clampAttributes();
+}
+
+void Entity_GymFighter::updateReputationLabel()
+{
+    setText(Reputation, ReputationScale::label(ReputationScale::Fighter, reputationPoints));
+}

@@ -44,6 +44,19 @@ public:
     void unpackExtras(const QList<int> &seven, const QList<int> &fortyNine, const QStringList &log);
 
     bool operator==(const Entity_GymFighter &other) const;
+
+    // --- Skill levels, match experience and reputation ------------------------------------------
+    // The skill's attributes rise (fall) by one and its counter returns to 0; the line for the
+    // day's report is returned: "Attack Speed level up!", "Low Kick level down.".
+    QString levelUp(int skill);
+    QString levelDown(int skill);
+    // the level change when the counter has reached its limit, with its line added to `report`
+    bool checkLevelUp(int skill, QStringList &report);
+    bool checkLevelDown(int skill, QStringList &report);
+    // what a match teaches, from the engine's 44 statistics, and the reputation points it earns
+    void addMatchExperience(const QList<int> &statistics, const QString &result);
+    // the label from the reputation points
+    void updateReputationLabel();
 };
 
 QDataStream &operator<<(QDataStream &out, const Entity_GymFighter &fighter);

@@ -1,0 +1,154 @@
+#pragma once
+
+#include "fighters/Entity_Fighter.h"
+#include "fighters/Entity_Gym.h"
+#include "fighters/Entity_GymFighter.h"
+#include "fighters/Entity_Manager.h"
+#include "fighters/Random.h"
+#include "fighters/StreamForm.h"
+#include "world/Entity_Booking.h"
+#include "world/Entity_Event.h"
+#include "world/Entity_Match.h"
+#include "world/Entity_Org.h"
+#include "world/GameManager.h"
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QIODevice>
+
+// Small records of the world for the tests: men, cards, nights and promotions.
+namespace WorldSamples {
+
+inline Entity_Fighter fighter(int id, const QString &first, const QString &last, int score,
+                              const QString &organisation = "Free Agent", int fightsLeft = 4)
+{
+    Entity_Fighter f;
+    f.setText(Entity_Fighter::FirstName, first);
+    f.setText(Entity_Fighter::LastName, last);
+    f.setText(Entity_Fighter::Reputation, "Unknown");
+    f.setContract(organisation, fightsLeft);
+    f.setId(id);
+    f.setNumber(Entity_Fighter::RankingScore, score);
+    f.setNumber(Entity_Fighter::Age, 25);
+    f.setBirthDate(QDate(1986, 6, 15));
+    return f;
+}
+
+inline Entity_GymFighter gymFighter(int id, const QString &first, const QString &last, int score,
+                                    const QString &organisation = "Free Agent", int fightsLeft = 0, int purse = 0)
+{
+    Entity_GymFighter f(fighter(id, first, last, score));
+    // the same man every time: average learner, marketability 2
+    f.unpackExtras({1, 0, 2, 0, 0, 0, 0}, QList<int>(Entity_GymFighter::ProgressCount, 0), {});
+    f.setContract(organisation, fightsLeft, purse);
+    return f;
+}
+
+inline Entity_Match slot(const QString &type, const QString &one = "TBA", int oneId = 0, const QString &two = "TBA",
+                         int twoId = 0, bool gymBooked = false)
+{
+    Entity_Match m(type);
+    m.unpack({one, two, type, "TBA"}, oneId, twoId, gymBooked);
+    return m;
+}
+
+inline Entity_Event makeEvent(const QString &name, const QString &organisation, const QDate &date,
+                              const QList<Entity_Match> &card, const QString &title = "No Title")
+{
+    return Entity_Event({name, organisation, "Tokyo", "Elite", "Fight Night", title}, date, card);
+}
+
+inline Entity_Event bookedEvent(const Entity_Event &night, bool userBooked)
+{
+    QStringList strings;
+    QDate date;
+    QList<Entity_Match> card;
+    QStringList results;
+    bool booked = false;
+    night.pack(strings, date, card, results, booked);
+    Entity_Event copy;
+    copy.unpack(strings, date, card, results, userBooked);
+    return copy;
+}
+
+inline Entity_Org organisation(const QString &name, const QList<Entity_Event> &calendar,
+                               const QList<Entity_Fighter> &men, const Entity_Org::Titles &titles = {},
+                               const QString &prestige = "Elite")
+{
+    Entity_Org::Roster roster;
+    for (const Entity_Fighter &man : men)
+        roster.insert(man.getRankingScore(), man);
+    Entity_Org org;
+    org.unpack({name, "Chief", "Japan", "note", prestige, "A promotion.", "Tentative"}, calendar, {}, roster, titles);
+    return org;
+}
+
+template <typename Record> QByteArray streamed(const Record &record)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    out << record;
+    return bytes;
+}
+
+template <typename Record> Record readBack(const QByteArray &bytes, QDataStream::Status *status = nullptr)
+{
+    QDataStream in(bytes);
+    in.setVersion(StreamForm::version);
+    Record record;
+    in >> record;
+    if (status)
+        *status = in.status();
+    return record;
+}
+
+// A whole world written in the order of a save file, to be read by GameManager::readFrom.
+struct World {
+    int nextId = 1100;
+    QDate date{2011, 3, 1};
+    Entity_Manager manager;
+    Entity_Gym gym;
+    QList<Entity_Fighter> students;
+    QList<Entity_GymFighter> fighters;
+    QList<Entity_Org> organisations;
+    QMultiMap<int, Entity_Fighter> freeAgents;
+    QList<Entity_Booking> offers;
+    QList<Entity_Booking> bookings;
+    QMultiMap<int, Entity_Fighter> amateurs;
+
+    QByteArray bytes() const
+    {
+        QByteArray data;
+        QDataStream out(&data, QIODevice::WriteOnly);
+        out.setVersion(StreamForm::version);
+        out << qint32(nextId) << date << manager << gym;
+        StreamForm::writeList(out, students);
+        StreamForm::writeList(out, fighters);
+        StreamForm::writeList(out, organisations);
+        StreamForm::writeMap(out, freeAgents);
+        StreamForm::writeList(out, offers);
+        StreamForm::writeList(out, bookings);
+        StreamForm::writeMap(out, amateurs);
+        return data;
+    }
+
+    // makes this the running world; false if the world refused it
+    bool load() const
+    {
+        QDataStream in(bytes());
+        in.setVersion(StreamForm::version);
+        return GameManager::instance().readFrom(in);
+    }
+};
+
+inline QByteArray savedWorld()
+{
+    QByteArray data;
+    QDataStream out(&data, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    GameManager::instance().writeTo(out);
+    return data;
+}
+
+} // namespace WorldSamples

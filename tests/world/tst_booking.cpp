@@ -1,0 +1,462 @@
+#include "WorldSamples.h"
+
+#include "fighters/Random.h"
+#include "world/BookingRound.h"
+
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace WorldSamples;
+
+namespace {
+
+const QString Org = "Test FC";
+const QString NightName = "Test FC Night";
+const QDate Today(2011, 3, 1);
+const QString S = Entity_Match::SingleMatch;
+const QString T = Entity_Match::ChampionshipMatch;
+const QString Off = "off the card";
+const QString Main = "Single Match main event";
+// last names that never hold one another, so that a night's name tells who is in its main event
+const QStringList Callsigns = QString("Alpha Bravo Charlie Delta Echo Foxtrot Golf Hotel India Juliett Kilo Lima "
+                                      "Mike November Oscar Papa Quebec Romeo Sierra Tango Uniform Victor Whiskey "
+                                      "Xray Yankee Zulu")
+                                  .split(' ');
+const QRegularExpression NewsLine(
+    "^Booked (.+) for a (Championship Match|Single Match|Tournament Qualifier|Tournament Quarterfinal) at (.+)$");
+
+// roster position p: ranking score 100 (p + 1); the user's man of position p stands just behind him
+QList<Entity_Fighter> rosterOf(int size, const QString &org = Org, int idBase = 100)
+{
+    QList<Entity_Fighter> men;
+    for (int p = 0; p < size; ++p)
+        men.append(fighter(idBase + p, "Ken", Callsigns.at(p % 26) + QString(p / 26, 'x'), 100 * (p + 1), org));
+    return men;
+}
+
+Entity_GymFighter gymMan(int id, const QString &last, int position, const QString &org = Org)
+{
+    return gymFighter(id, "Jo", last, 100 * (position + 1) + 50, org, 5, 1000);
+}
+
+QList<Entity_Match> cardOf(const QStringList &types)
+{
+    QList<Entity_Match> card;
+    for (const QString &type : types)
+        card.append(slot(type));
+    return card;
+}
+
+Entity_Org::Titles titlesOf(const QStringList &rows)
+{
+    Entity_Org::Titles titles;
+    for (const QString &row : rows)
+        titles.insert(row.section('=', 0, 0), row.section('=', 1));
+    return titles;
+}
+
+Entity_Event nextNight()
+{
+    return GameManager::instance().organisation(Org).nextEvent(GameManager::instance().getCurrentDate());
+}
+
+int placesTaken(const Entity_Event &night)
+{
+    int taken = 0;
+    for (const Entity_Match &match : night.matches())
+        taken += (match.fighterOne() != "TBA") + (match.fighterTwo() != "TBA");
+    return taken;
+}
+
+int allPlacesTaken()
+{
+    int taken = 0;
+    for (const QString &name : GameManager::instance().organisationNames()) {
+        QList<Entity_Event> calendar;
+        GameManager::instance().organisation(name).events(calendar);
+        for (const Entity_Event &night : std::as_const(calendar))
+            taken += placesTaken(night);
+    }
+    return taken;
+}
+
+QString placeOf(const Entity_Event &night, int id)
+{
+    for (int i = 0; i < night.matchCount(); ++i) {
+        if (night.matchAt(i).holds(id))
+            return night.matchAt(i).matchType() +
+                   (i == night.matchCount() - 1 && night.matchAt(i).matchType() == S ? " main event" : "");
+    }
+    return Off;
+}
+
+QList<Entity_GymFighter> usersMen()
+{
+    QList<Entity_GymFighter> men;
+    for (int id : GameManager::instance().fighterIds())
+        men.append(GameManager::instance().fighterById(id));
+    return men;
+}
+
+// What is wrong with a card of the running world: a man twice, a man where his position may not
+// go, the user's link to a night under an old name, two of his men on it. Empty when sound.
+QString faultsOf(const Entity_Event &night)
+{
+    const Entity_Org org = GameManager::instance().organisation(night.organisationName());
+    Entity_Org::Roster roster;
+    Entity_Org::Titles titles;
+    org.rosterCopy(roster);
+    org.titlesCopy(titles);
+    const QList<Entity_Fighter> ranked = roster.values();
+    const auto positionOf = [&](const Entity_Fighter &man) {
+        return int(std::count_if(ranked.cbegin(), ranked.cend(),
+                                 [&](const Entity_Fighter &m) { return m.getRankingScore() < man.getRankingScore(); }));
+    };
+    QMap<int, std::pair<int, bool>> men; // id to position and whether he is the user's
+    for (int p = 0; p < ranked.size(); ++p)
+        men.insert(ranked.at(p).getId(), {p, false});
+    int usersMenOnCard = 0;
+    for (const Entity_GymFighter &man : usersMen()) {
+        if (man.text(Entity_Fighter::Organisation) == org.name())
+            men.insert(man.getId(), {positionOf(man) - 1, true});
+        if (!night.holdsFighter(man.getId()))
+            continue;
+        ++usersMenOnCard;
+        // his link names a night ahead as it is called now
+        const QString link = night.name() + " - " + night.date().toString(Qt::TextDate);
+        const bool ahead = night.date() >= GameManager::instance().getCurrentDate();
+        if (ahead && GameManager::instance().bookingsByFighter().value(man.fullName()) != link)
+            return man.fullName() + " keeps an old link";
+    }
+    if (usersMenOnCard > 1 || (usersMenOnCard == 1) != night.isUserBooked())
+        return "the user's men and the flag disagree";
+    const bool ruled = night.hasChampionship() || night.hasQualifier() || night.hasTournamentRounds();
+    QList<int> seen;
+    for (int i = 0; i < night.matchCount(); ++i) {
+        const Entity_Match m = night.matchAt(i);
+        for (const auto &[id, name] :
+             {std::pair(m.fighterOneId(), m.fighterOne()), std::pair(m.fighterTwoId(), m.fighterTwo())}) {
+            if (id == 0 || !men.contains(id))
+                continue;
+            if (seen.contains(id) && m.matchType() != Entity_Match::TournamentSemifinal &&
+                m.matchType() != Entity_Match::TournamentFinal)
+                return name + " twice";
+            seen.append(id);
+            const auto [p, users] = men.value(id);
+            const bool mainEvent = i == night.matchCount() - 1;
+            const QString type = m.matchType();
+            const bool fits = type == T ? p < 10 || name == titles.value(titles.firstKey())
+                              : type == Entity_Match::TournamentQualifier    ? p < 16
+                              : type == Entity_Match::TournamentQuarterfinal ? p < 8
+                              : type != S                                    ? true
+                              : !mainEvent                                   ? p >= 5
+                              : users                                        ? p < 5
+                                                                             : ruled || p < 10;
+            if (!fits)
+                return QString("%1 of position %2 in a %3").arg(name).arg(p).arg(type);
+        }
+    }
+    return {};
+}
+
+// the offers of the running world, read from its own save stream
+QList<Entity_Booking> currentOffers()
+{
+    QDataStream in(savedWorld());
+    in.setVersion(StreamForm::version);
+    qint32 id;
+    QDate date;
+    Entity_Manager manager;
+    Entity_Gym gym;
+    QList<Entity_Fighter> students;
+    QList<Entity_GymFighter> fighters;
+    QList<Entity_Org> orgs;
+    QMultiMap<int, Entity_Fighter> freeAgents;
+    QList<Entity_Booking> offers;
+    in >> id >> date >> manager >> gym;
+    StreamForm::readList(in, students);
+    StreamForm::readList(in, fighters);
+    StreamForm::readList(in, orgs);
+    StreamForm::readMultiMap(in, freeAgents);
+    StreamForm::readList(in, offers);
+    return offers;
+}
+
+// One promotion, one night ahead, and what a day of booking must make of it.
+struct Scene {
+    QList<Entity_Match> card = cardOf({S, S, S});
+    QString name = NightName;
+    QStringList titles;
+    int rosterSize = 12;
+    int userPosition = -99; // the user's man Jo Storm, -99 for none
+    bool userOnUndercard = false;
+    int daysOut = 7;
+    // expectations; a negative number or an empty list or text asks nothing
+    QString firstLine;
+    int lines = -1;
+    int attempts = -1;
+    int complete = -1;
+    QString absent;          // a man who must stay off the card
+    QStringList userAllowed; // where Jo Storm may stand
+    QString userSeen;        // where some seed must put him
+    QString nameAfter;       // %1 and %2: the last names in the main event's places
+    int offersLeft = -1;     // of one offer for this night and one for another
+
+    World world() const
+    {
+        World w;
+        w.date = Today;
+        QList<Entity_Match> cards = card;
+        QList<Entity_GymFighter> men;
+        if (userPosition != -99)
+            men.append(gymMan(900, "Storm", userPosition));
+        if (userOnUndercard)
+            cards[0] = slot(S, "Jo Storm", 900, "TBA", 0, true);
+        const Entity_Event night = bookedEvent(makeEvent(name, Org, Today.addDays(daysOut), cards), userOnUndercard);
+        w.organisations = {organisation(Org, {night}, rosterOf(rosterSize), titlesOf(titles))};
+        w.fighters = men;
+        for (const Entity_GymFighter &man : men)
+            w.bookings.append(userOnUndercard ? Entity_Booking(900, man.fullName(), name, Org, night.date())
+                                              : Entity_Booking::emptyFor(900, man.fullName(), Today));
+        w.offers = {Entity_Booking(901, "Jo Blaze", name, Org, night.date()),
+                    Entity_Booking(901, "Jo Blaze", "Other Night", "Other FC", Today.addDays(9))};
+        return w;
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Scene)
+
+class tst_Booking : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aDayOfBookingFollowsTheSlotRules_data()
+    {
+        QTest::addColumn<Scene>("scene");
+        const QString belt = "Test FC World Championship=";
+        const QList<Entity_Match> titleCard = cardOf({S, S, T});
+        const QString byTitle = "Booked %1 for a Championship Match at Test FC Night";
+        Scene s;
+
+        s = {}, s.card = titleCard, s.titles = {belt + "Vacant"}, s.daysOut = 20;
+        s.firstLine = byTitle.arg("Ken Alpha"), s.nameAfter = "Test FC: Alpha vs. %2";
+        QTest::newRow("vacant title: the best man first") << s;
+        s.card[2] = slot(T, "Ken Alpha", 100), s.name = "Test FC: Alpha vs. TBA";
+        s.firstLine = "Booked Ken Bravo for a Championship Match at Test FC: Alpha vs. TBA";
+        s.nameAfter = "Test FC: Alpha vs. Bravo";
+        QTest::newRow("vacant title: the second man once the best is on") << s;
+        s = {}, s.card = titleCard, s.titles = {belt + "Ken Mike"}, s.rosterSize = 14, s.daysOut = 20;
+        s.firstLine = byTitle.arg("Ken Mike"), s.nameAfter = "Test FC: Mike vs. %2";
+        QTest::newRow("the holder is called up, whatever his position") << s;
+        s.titles = {belt + "Jo Storm"}, s.userPosition = 8;
+        s.firstLine = byTitle.arg("Jo Storm"), s.nameAfter = "Test FC: Storm vs. %2", s.userAllowed = {T};
+        QTest::newRow("the user's holder is called up as his man") << s;
+        s = {}, s.card = titleCard, s.titles = {belt + "Old Timer"}, s.daysOut = 20, s.absent = "Old Timer";
+        QTest::newRow("a holder who has left books nobody") << s;
+
+        s = {}, s.card = cardOf({S, S, S, S}), s.rosterSize = 11; // six undercard places, six men from position 5
+        s.titles = {belt + "Ken Golf"}, s.complete = 0, s.absent = "Ken Golf";
+        QTest::newRow("a one-title champion fights only for his belt") << s;
+        s.titles = {"Test FC Grand Prix 2011=Ken Golf"}, s.complete = 1, s.absent = "";
+        QTest::newRow("a Grand Prix winner fights single matches") << s;
+        s.titles = {belt + "Ken Golf", "Test FC Grand Prix 2010=Vacant"};
+        QTest::newRow("a champion of two titles fights single matches") << s;
+        s.titles = {}, s.rosterSize = 10, s.complete = 0;
+        QTest::newRow("the top five never fill the undercard") << s;
+
+        s = {}, s.userPosition = 3, s.userAllowed = {Main, Off}, s.userSeen = Main;
+        QTest::newRow("the user's man of position 3 waits until the undercard is full") << s;
+        s.userPosition = 5, s.userAllowed = {S, Off}, s.userSeen = S;
+        QTest::newRow("the user's man of position 5 stays on the undercard") << s;
+        s.card = {slot(S, "Al Outsider", 501, "Bo Outsider", 502), slot(S, "Cy Outsider", 503, "Di Outsider", 504),
+                  slot(S)};
+        s.userAllowed = {Off}, s.userSeen = "";
+        QTest::newRow("the user's man of position 5 stays out of the main event") << s;
+        s = {}, s.card = titleCard, s.titles = {belt + "Vacant"}, s.rosterSize = 14;
+        s.userPosition = 9, s.userAllowed = {T, S, Off}, s.userSeen = T;
+        QTest::newRow("the user's man of position 9 may fight for the belt") << s;
+        s.userPosition = 10, s.userAllowed = {S, Off}, s.userSeen = S;
+        QTest::newRow("the user's man of position 10 may not") << s;
+        s = {}, s.card = cardOf({"Tournament Quarterfinal", "Tournament Quarterfinal", "Tournament Quarterfinal",
+                                 "Tournament Quarterfinal", "Tournament Semifinal", "Tournament Semifinal",
+                                 "Tournament Final"});
+        s.userPosition = 7, s.userAllowed = {"Tournament Quarterfinal", Off}, s.userSeen = "Tournament Quarterfinal";
+        s.nameAfter = NightName;
+        QTest::newRow("a finals night keeps its name; position 7 reaches the quarterfinals") << s;
+        s.userPosition = 8, s.userAllowed = {Off}, s.userSeen = "";
+        QTest::newRow("position 8 has no place on a finals night") << s;
+
+        s = {}, s.card = {slot(S, "Ken Foxtrot", 105, "Ken Golf", 106), slot(S, "Ken Hotel", 107, "Ken India", 108),
+                          slot(S, "Ken Alpha", 100, "Ken Bravo", 101)};
+        s.daysOut = 10, s.lines = 0, s.attempts = 11, s.offersLeft = 2;
+        QTest::newRow("a full card ten days out takes nothing and makes no news") << s;
+        s = {}, s.daysOut = 10, s.lines = 1;
+        QTest::newRow("ten days out: one man a day") << s;
+        s.daysOut = 8;
+        QTest::newRow("eight days out: still one man a day") << s;
+        s.daysOut = 7, s.lines = 6, s.complete = 1;
+        QTest::newRow("seven days out: the whole card in one day") << s;
+        s = {}, s.userPosition = 8, s.userOnUndercard = true, s.lines = 5, s.complete = 1;
+        s.nameAfter = "Test FC: %1 vs. %2", s.offersLeft = 1;
+        QTest::newRow("the main event renames the night and the user's link follows") << s;
+
+        s = {}, s.card = cardOf(QStringList(10, S)), s.rosterSize = 3, s.lines = 0, s.complete = 0;
+        s.attempts = BookingRound::LastWeekAttemptLimit;
+        QTest::newRow("a roster of three cannot fill ten matches and gives up") << s;
+        s = {}, s.rosterSize = 0, s.lines = 0, s.attempts = 0;
+        QTest::newRow("an empty roster ends the turn") << s;
+        s = {}, s.daysOut = -1, s.lines = 0, s.attempts = 1;
+        QTest::newRow("a spent calendar ends the turn after one attempt") << s;
+    }
+
+    void aDayOfBookingFollowsTheSlotRules()
+    {
+        QFETCH(Scene, scene);
+        QStringList userPlaces;
+        for (quint32 seed = 1; seed <= 8; ++seed) {
+            QVERIFY(scene.world().load());
+            const int before = allPlacesTaken();
+            Random::useTestClock(seed);
+            BookingRound round(GameManager::instance());
+            const QStringList news = round.run();
+            const Entity_Event night = nextNight();
+
+            QCOMPARE(allPlacesTaken() - before, int(news.size()));
+            for (const QString &line : news) {
+                QVERIFY2(NewsLine.match(line).hasMatch(), qPrintable(line));
+                QVERIFY(scene.absent.isEmpty() || !line.contains(scene.absent));
+            }
+            QCOMPARE(faultsOf(night), QString());
+            if (!scene.firstLine.isEmpty())
+                QCOMPARE(news.value(0), scene.firstLine);
+            if (scene.lines >= 0)
+                QCOMPARE(int(news.size()), scene.lines);
+            if (scene.attempts >= 0)
+                QCOMPARE(round.attemptCounts(), QList<int>{scene.attempts});
+            if (scene.complete >= 0)
+                QCOMPARE(night.cardFilled(), scene.complete == 1);
+            const Entity_Match main = night.matchAt(night.matchCount() - 1);
+            if (!scene.nameAfter.isEmpty())
+                QCOMPARE(night.name(), QString(scene.nameAfter)
+                                           .replace("%1", main.fighterOne().section(' ', -1))
+                                           .replace("%2", main.fighterTwo().section(' ', -1)));
+            if (scene.offersLeft >= 0)
+                QCOMPARE(int(currentOffers().size()), scene.offersLeft);
+            userPlaces.append(placeOf(night, 900));
+            QVERIFY2(scene.userAllowed.isEmpty() || scene.userAllowed.contains(userPlaces.last()),
+                     qPrintable(userPlaces.last()));
+        }
+        QVERIFY2(scene.userSeen.isEmpty() || userPlaces.contains(scene.userSeen), qPrintable(userPlaces.join(", ")));
+    }
+
+    void aSeededMonthKeepsEveryCardSound()
+    {
+        QVERIFY(busyWorld().load());
+        Random::useTestClock(2011);
+        QVERIFY(bookDays(60, "Delta Tiny") > 200);
+    }
+
+    void theDefaultWorldBooksSixtyDays()
+    {
+        GameManager::instance().resetWorld();
+        GameManager::instance().loadDefaultWorld();
+        if (GameManager::instance().organisationNames().isEmpty())
+            QSKIP("this build holds no default world");
+        Random::useTestClock(2011);
+        QVERIFY(bookDays(60) > 0);
+    }
+
+private:
+    // Books the running world day after day. After each day every card is sound, one line stands
+    // for each place taken, and the nights of the day are complete, but for a starved promotion.
+    static int bookDays(int days, const QString &starved = {})
+    {
+        GameManager &game = GameManager::instance();
+        int lines = 0;
+        for (int day = 0; day < days && !QTest::currentTestFailed(); ++day) {
+            game.advanceDate();
+            const int before = allPlacesTaken();
+            const QStringList news = game.bookEvents();
+            lines += int(news.size());
+            [&] { QCOMPARE(allPlacesTaken() - before, int(news.size())); }();
+            for (const QString &line : news)
+                [&] { QVERIFY2(NewsLine.match(line).hasMatch(), qPrintable(line)); }();
+            QMap<int, int> userCards; // the user's man to the cards ahead that hold him
+            for (const QString &name : game.organisationNames()) {
+                QList<Entity_Event> calendar;
+                game.organisation(name).events(calendar);
+                for (const Entity_Event &night : std::as_const(calendar)) {
+                    const QString where = night.name() + ", " + night.date().toString();
+                    [&] { QVERIFY2(faultsOf(night).isEmpty(), qPrintable(where + ": " + faultsOf(night))); }();
+                    const bool tonight = night.date() == game.getCurrentDate();
+                    const bool complete =
+                        night.championshipsFilled() && night.tournamentSlotsFilled() && night.singlesFilled();
+                    [&] { QVERIFY2(!tonight || name == starved || complete, qPrintable(where)); }();
+                    for (const Entity_GymFighter &man : usersMen())
+                        userCards[man.getId()] +=
+                            night.date() >= game.getCurrentDate() && night.holdsFighter(man.getId());
+                }
+            }
+            for (int cards : std::as_const(userCards))
+                [&] { QVERIFY(cards <= 1); }();
+        }
+        return lines;
+    }
+
+    // Four promotions over two months: title nights with a holder and with a vacant belt, a
+    // tournament with qualifiers and finals, and a promotion too small for its cards.
+    static World busyWorld()
+    {
+        World world;
+        world.date = QDate(2011, 1, 1);
+        QMap<QString, QList<Entity_Event>> calendars;
+        const auto nights = [&](const QString &org, const QStringList &card, int first, int every, int count,
+                                const QString &title = "No Title") {
+            for (int i = 0; i < count; ++i) {
+                const int day = first + i * every;
+                calendars[org].append(makeEvent(QString("%1 Night %2").arg(org).arg(day), org, world.date.addDays(day),
+                                                cardOf(card), title));
+            }
+        };
+        const QStringList plain(8, S);
+        const QStringList titleNight = QStringList(6, S) << T;
+        nights("Alpha League", plain, 3, 14, 5);
+        nights("Alpha League", titleNight, 10, 14, 5, "Alpha League World Championship");
+        nights("Beta Circuit", plain, 5, 21, 1);
+        nights("Beta Circuit", QStringList(8, "Tournament Qualifier") << S << S, 20, 21, 1);
+        nights("Beta Circuit",
+               QStringList(4, "Tournament Quarterfinal") << "Tournament Semifinal"
+                                                         << "Tournament Semifinal"
+                                                         << "Tournament Final",
+               42, 1, 1, "Beta Grand Prix 2011");
+        nights("Beta Circuit", plain, 55, 21, 1);
+        nights("Gamma Promotions", titleNight, 6, 10, 6, "Gamma World Championship");
+        nights("Delta Tiny", QStringList(5, S), 4, 9, 7);
+        for (auto &calendar : calendars)
+            std::sort(calendar.begin(), calendar.end(), [](auto &a, auto &b) { return a.date() < b.date(); });
+
+        world.organisations = {
+            organisation("Alpha League", calendars["Alpha League"], rosterOf(40, "Alpha League", 1000),
+                         titlesOf({"Alpha League World Championship=Ken Charlie"})),
+            organisation("Beta Circuit", calendars["Beta Circuit"], rosterOf(30, "Beta Circuit", 2000),
+                         titlesOf({"Beta Grand Prix 2010=Ken Mike"})),
+            organisation("Gamma Promotions", calendars["Gamma Promotions"], rosterOf(20, "Gamma Promotions", 3000),
+                         titlesOf({"Gamma World Championship=Vacant"})),
+            organisation("Delta Tiny", calendars["Delta Tiny"], rosterOf(6, "Delta Tiny", 4000)),
+        };
+        world.fighters = {gymMan(900, "Storm", -1, "Alpha League"),     gymMan(901, "Blaze", 7, "Alpha League"),
+                          gymMan(902, "Frost", 20, "Alpha League"),     gymMan(903, "Ember", 4, "Beta Circuit"),
+                          gymMan(904, "Cinder", 0, "Gamma Promotions"), gymMan(905, "Flint", 6, "Free Agent")};
+        for (const Entity_GymFighter &man : std::as_const(world.fighters))
+            world.bookings.append(Entity_Booking::emptyFor(man.getId(), man.fullName(), world.date));
+        return world;
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Booking)
+#include "tst_booking.moc"

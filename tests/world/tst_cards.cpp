@@ -1,0 +1,299 @@
+#include "WorldSamples.h"
+
+#include <QtTest>
+
+using namespace WorldSamples;
+
+namespace {
+
+const QString Single = Entity_Match::SingleMatch;
+const QString Title = Entity_Match::ChampionshipMatch;
+const QString Qualifier = Entity_Match::TournamentQualifier;
+const QString Quarter = Entity_Match::TournamentQuarterfinal;
+const QString Semi = Entity_Match::TournamentSemifinal;
+const QString Final = Entity_Match::TournamentFinal;
+
+const QDate night(2011, 5, 14);
+
+// a finals night: four quarterfinals, two semifinals, the final last; the first quarterfinal fought
+Entity_Event finalsNight()
+{
+    return makeEvent("GKO Grand Prix 2011", "GKO", night,
+                     {slot(Quarter, "Al Ames", 11, "Bo Bell", 12), slot(Quarter), slot(Quarter), slot(Quarter),
+                      slot(Semi), slot(Semi), slot(Final)},
+                     "GKO Grand Prix 2011");
+}
+
+// two undercard bouts and a main event
+Entity_Event fightNight(const QString &name = "G-1 Fight Night 2011")
+{
+    return makeEvent(name, "G-1", night, {slot(Single), slot(Single), slot(Single)});
+}
+
+} // namespace
+
+class tst_Cards : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aMatchFillsItsPlacesInOrder()
+    {
+        Entity_Match match;
+        QCOMPARE(match.matchType(), Single);
+        QVERIFY(!match.isFilled());
+        QVERIFY(match.addFighter(11, "Al Ames", false));
+        QCOMPARE(match.fighterOne(), QString("Al Ames"));
+        QCOMPARE(match.fighterTwo(), QString("TBA"));
+        QVERIFY(match.addFighter(12, "Bo Bell", true));
+        QVERIFY(match.isFilled());
+        QVERIFY(match.isGymFighterBooked());
+        QVERIFY(!match.addFighter(13, "Cy Cole", false));
+
+        match.removeFighter(11, false);
+        QCOMPARE(match.fighterOne(), QString("TBA"));
+        QCOMPARE(match.fighterOneId(), 0);
+        QVERIFY(match.isGymFighterBooked()); // a stranger leaving changes nothing for the user
+        match.removeFighter(12, true);
+        QVERIFY(!match.isGymFighterBooked());
+
+        match.addFighter(13, "Cy Cole", false);
+        match.reset();
+        QVERIFY(match == Entity_Match(Single));
+    }
+
+    void aMatchNeverHoldsTwoMenOfTheUser()
+    {
+        Entity_Match match(Semi);
+        QVERIFY(match.addFighter(21, "Dan Day", true));
+        QVERIFY(!match.addFighter(22, "Eli Eck", true));
+        QCOMPARE(match.fighterTwo(), QString("TBA"));
+        // a stranger beside him leaves the flag standing
+        QVERIFY(match.addFighter(23, "Fay Fox", false));
+        QVERIFY(match.isGymFighterBooked());
+    }
+
+    // who may be added where on a card
+    void addingToACard_data()
+    {
+        QTest::addColumn<Entity_Event>("card");
+        QTest::addColumn<int>("id");
+        QTest::addColumn<QString>("matchType");
+        QTest::addColumn<bool>("isGymFighter");
+        QTest::addColumn<bool>("added");
+        QTest::addColumn<bool>("userBookedAfter");
+
+        const Entity_Event plain = fightNight();
+        Entity_Event withAl = plain;
+        withAl.addFighter(11, "Al Ames", Single, false);
+        Entity_Event withUser = plain;
+        withUser.addFighter(31, "Gus Gray", Single, true);
+
+        QTest::newRow("first man on an empty card") << plain << 11 << Single << false << true << false;
+        QTest::newRow("a slot type the card lacks") << plain << 11 << Title << false << false << false;
+        QTest::newRow("the user's man marks the card") << plain << 31 << Single << true << true << true;
+        QTest::newRow("a man twice on a card") << withAl << 11 << Single << false << false << false;
+        QTest::newRow("a second man of the user") << withUser << 32 << Single << true << false << true;
+        QTest::newRow("a stranger beside the user's man") << withUser << 12 << Single << false << true << true;
+
+        Entity_Event finals = finalsNight();
+        QTest::newRow("quarterfinal winner into a semifinal") << finals << 11 << Semi << false << true << false;
+        QTest::newRow("quarterfinal winner into a second quarterfinal")
+            << finals << 11 << Quarter << false << false << false;
+        Entity_Event userFinals = finals;
+        QVERIFY(userFinals.addFighter(41, "Hal Hart", Quarter, true));
+        QTest::newRow("second man of the user refused a quarterfinal")
+            << userFinals << 42 << Quarter << true << false << true;
+        QTest::newRow("second man of the user into a semifinal") << userFinals << 42 << Semi << true << true << true;
+        QTest::newRow("second man of the user into the final") << userFinals << 42 << Final << true << true << true;
+
+        // the exception holds for tournament cards only
+        Entity_Event semisOnly =
+            makeEvent("Odd Night", "G-1", night, {slot(Semi, "Al Ames", 11, "Bo Bell", 12, false), slot(Semi)});
+        QTest::newRow("semifinal without tournament rounds") << semisOnly << 11 << Semi << false << true << false;
+    }
+
+    void addingToACard()
+    {
+        QFETCH(Entity_Event, card);
+        QFETCH(int, id);
+        QFETCH(QString, matchType);
+        QFETCH(bool, isGymFighter);
+        QFETCH(bool, added);
+        QFETCH(bool, userBookedAfter);
+
+        const Entity_Event before = card;
+        QCOMPARE(card.addFighter(id, "New Man", matchType, isGymFighter), added);
+        QCOMPARE(card.isUserBooked(), userBookedAfter);
+        if (!added)
+            QVERIFY(card == before);
+        else
+            QVERIFY(card.holdsFighter(id));
+    }
+
+    void removingFromACard()
+    {
+        Entity_Event card = fightNight();
+        card.addFighter(11, "Al Ames", Single, false);
+        card.addFighter(31, "Gus Gray", Single, true);
+        card.removeFighter(99, true); // nobody of that id: the user's mark stays
+        QVERIFY(card.isUserBooked());
+        card.removeFighter(31, true);
+        QVERIFY(!card.isUserBooked());
+        QVERIFY(!card.holdsFighter(31));
+        QVERIFY(card.holdsFighter(11));
+        QVERIFY(!card.matchAt(0).isGymFighterBooked());
+    }
+
+    void fillTests_data()
+    {
+        QTest::addColumn<Entity_Event>("card");
+        QTest::addColumn<bool>("undercard");
+        QTest::addColumn<bool>("whole");
+        QTest::addColumn<bool>("singles");
+        QTest::addColumn<bool>("titles");
+        QTest::addColumn<bool>("tournamentSlots");
+
+        const Entity_Match full = slot(Single, "A A", 1, "B B", 2);
+        QTest::newRow("one open match is its own main event")
+            << makeEvent("One", "G-1", night, {slot(Single)}) << true << false << false << true << true;
+        QTest::newRow("half-filled title fight as main event")
+            << makeEvent("Two", "G-1", night, {full, slot(Title, "C C", 3)}) << true << false << true << false << true;
+        QTest::newRow("open undercard") << makeEvent("Three", "G-1", night,
+                                                     {slot(Single), slot(Title, "C C", 3, "D D", 4)})
+                                        << false << false << false << true << true;
+        QTest::newRow("full card") << makeEvent("Four", "G-1", night, {full, slot(Title, "C C", 3, "D D", 4)}) << true
+                                   << true << true << true << true;
+        QTest::newRow("open qualifier") << makeEvent("Five", "G-1", night, {slot(Qualifier, "E E", 5), full}) << false
+                                        << false << true << true << false;
+        // the later rounds fill while the night runs and don't count
+        Entity_Event finals = finalsNight();
+        for (int i = 1; i < 4; ++i) {
+            QVERIFY(finals.addFighter(100 + i, "Q One", Quarter, false));
+            QVERIFY(finals.addFighter(200 + i, "Q Two", Quarter, false));
+        }
+        QTest::newRow("finals night with its later rounds open") << finals << false << false << true << true << true;
+        QTest::newRow("empty card") << Entity_Event() << true << true << true << true << true;
+    }
+
+    void fillTests()
+    {
+        QFETCH(Entity_Event, card);
+        QFETCH(bool, undercard);
+        QFETCH(bool, whole);
+        QFETCH(bool, singles);
+        QFETCH(bool, titles);
+        QFETCH(bool, tournamentSlots);
+        QCOMPARE(card.undercardFilled(), undercard);
+        QCOMPARE(card.cardFilled(), whole);
+        QCOMPARE(card.singlesFilled(), singles);
+        QCOMPARE(card.championshipsFilled(), titles);
+        QCOMPARE(card.tournamentSlotsFilled(), tournamentSlots);
+    }
+
+    void cardKinds()
+    {
+        QVERIFY(finalsNight().hasTournamentRounds());
+        QVERIFY(!finalsNight().hasQualifier());
+        QVERIFY(!finalsNight().hasChampionship());
+        const Entity_Event qualifiers = makeEvent("Q", "GKO", night, {slot(Qualifier), slot(Single)});
+        QVERIFY(qualifiers.hasQualifier());
+        QVERIFY(!qualifiers.hasTournamentRounds());
+        QVERIFY(makeEvent("T", "G-1", night, {slot(Single), slot(Title)}).hasChampionship());
+    }
+
+    // the main event names the night as it fills up
+    void renameSequence()
+    {
+        Entity_Event card = fightNight();
+        card.addFighter(11, "Al Ames", Single, false);
+        card.rename("Ames"); // an undercard man leaves the name alone
+        QCOMPARE(card.name(), QString("G-1 Fight Night 2011"));
+        card.addFighter(12, "Bo Bell", Single, false);
+        card.addFighter(13, "Cy Cole", Single, false);
+        card.addFighter(14, "Dee Dunn", Single, false);
+        card.addFighter(15, "Ed Egan", Single, false);
+        card.rename("Egan");
+        QCOMPARE(card.name(), QString("G-1: Egan vs. TBA"));
+        card.rename("Nobody");
+        QCOMPARE(card.name(), QString("G-1: Egan vs. TBA"));
+        card.addFighter(16, "Fin Ford", Single, false);
+        card.rename("Ford");
+        QCOMPARE(card.name(), QString("G-1: Egan vs. Ford"));
+
+        // a new first man keeps the second, the text after "vs." with its blank
+        card.removeFighter(15, false);
+        card.addFighter(17, "Gil Gow", Single, false);
+        card.rename("Gow");
+        QCOMPARE(card.name(), QString("G-1: Gow vs.  Ford"));
+        // a new second man takes the place of that text, blank and all
+        card.removeFighter(16, false);
+        card.addFighter(18, "Hap Hull", Single, false);
+        card.rename("Hull");
+        QCOMPARE(card.name(), QString("G-1: Gow vs.Hull"));
+    }
+
+    void tournamentNightsKeepTheirNames()
+    {
+        Entity_Event finals = finalsNight();
+        finals.addFighter(21, "Ian Ives", Final, false);
+        finals.rename("Ives");
+        QCOMPARE(finals.name(), QString("GKO Grand Prix 2011"));
+        Entity_Event qualifiers = makeEvent("GKO Qualifiers 2011", "GKO", night, {slot(Qualifier), slot(Single)});
+        qualifiers.addFighter(22, "Jo Judd", Single, false);
+        qualifiers.rename("Judd");
+        QCOMPARE(qualifiers.name(), QString("GKO Qualifiers 2011"));
+    }
+
+    void rollOver_data()
+    {
+        QTest::addColumn<Entity_Event>("before");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QDate>("date");
+
+        QTest::newRow("the year in a name") << fightNight("G-1 Spring 2011") << "G-1 Spring 2012"
+                                            << "No Title" << QDate(2012, 5, 14);
+        QTest::newRow("a name without a year") << fightNight("G-1 Spring") << "G-1 Spring"
+                                               << "No Title" << QDate(2012, 5, 14);
+        QTest::newRow("a named main event") << fightNight("G-1: Egan vs. Ford") << "G-1 Event"
+                                            << "No Title" << QDate(2012, 5, 14);
+        QTest::newRow("a named title fight")
+            << makeEvent("G-1: Egan vs. TBA", "G-1", night, {slot(Single), slot(Title, "E E", 15)},
+                         "G-1 World Championship")
+            << "G-1 Championship Fight"
+            << "G-1 World Championship" << QDate(2012, 5, 14);
+        QTest::newRow("tournament title moves its year") << finalsNight() << "GKO Grand Prix 2012"
+                                                         << "GKO Grand Prix 2012" << QDate(2012, 5, 14);
+        QTest::newRow("title of a plain night keeps its year")
+            << makeEvent("G-1 Gala 2011", "G-1", night, {slot(Title)}, "G-1 World Championship 2011") << "G-1 Gala 2012"
+            << "G-1 World Championship 2011" << QDate(2012, 5, 14);
+        QTest::newRow("29 February") << makeEvent("Leap Night 2012", "G-1", QDate(2012, 2, 29), {slot(Single)})
+                                     << "Leap Night 2013"
+                                     << "No Title" << QDate(2013, 2, 28);
+    }
+
+    void rollOver()
+    {
+        QFETCH(Entity_Event, before);
+        QFETCH(QString, name);
+        QFETCH(QString, title);
+        QFETCH(QDate, date);
+
+        Entity_Event card = before;
+        card.addFighter(51, "Kay Kemp", card.matchAt(0).matchType(), true);
+        card.addResults({"Single Match - a line"});
+        card.rollOver();
+        QCOMPARE(card.name(), name);
+        QCOMPARE(card.title(), title);
+        QCOMPARE(card.date(), date);
+        QVERIFY(card.results().isEmpty());
+        QVERIFY(!card.isUserBooked());
+        QCOMPARE(card.matchCount(), before.matchCount());
+        for (const Entity_Match &match : card.matches())
+            QVERIFY(match == Entity_Match(match.matchType()));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Cards)
+#include "tst_cards.moc"

@@ -1,0 +1,259 @@
+#include "WorldSamples.h"
+
+#include <QtTest>
+
+using namespace WorldSamples;
+
+namespace {
+
+GameManager &world()
+{
+    return GameManager::instance();
+}
+
+template <typename Record> void checkRoundTrip(const Record &record)
+{
+    QDataStream::Status status = QDataStream::Ok;
+    const QByteArray first = streamed(record);
+    const Record copy = readBack<Record>(first, &status);
+    QCOMPARE(status, QDataStream::Ok);
+    QVERIFY(copy == record);
+    QCOMPARE(streamed(copy), first);
+}
+
+Entity_Event titleNight()
+{
+    Entity_Event night = makeEvent(
+        "G-1: Ames vs. TBA", "G-1", QDate(2011, 8, 6),
+        {slot("Single Match", "Bo Bell", 12, "Gus Gray", 1050, true), slot("Championship Match", "Al Ames", 11)},
+        "G-1 World Championship");
+    night.addResults({"Single Match - Bo Bell defeated Gus Gray by KO(Knee) in 1:02 of Round 1."});
+    return bookedEvent(night, true);
+}
+
+Entity_Org fullOrganisation()
+{
+    // equal keys, a past night, several title rows
+    Entity_Fighter al = fighter(11, "Al", "Ames", 300, "G-1");
+    al.addHistoryEntry(QDate(2011, 2, 5), "Win: Bo Bell - KO(Hook) - Rd. 1(0:50)");
+    al.setTitleList({"G-1 World Championship - from Sat Feb 5 2011"});
+    Entity_Org org = organisation("G-1", {titleNight()},
+                                  {al, fighter(12, "Bo", "Bell", 300, "G-1"), fighter(13, "Cy", "Cole", -20, "G-1")},
+                                  {{"G-1 World Championship", "Al Ames"}, {"G-1 Grand Prix 2011", "Vacant"}});
+    org.rollOverEvents(); // the night goes to the past, its copy stands empty one year on
+    return org;
+}
+
+World fullWorld()
+{
+    World w;
+    w.nextId = 1207;
+    w.date = QDate(2012, 2, 29);
+    w.manager.unpack({"Mo", "Mack", "Oceania", "Fiji", "Well Known"}, QList<int>(23, 4), {"GKO Grand Prix 2011"});
+    w.gym.unpack({"Den", "Karate", "Red", "Gold", "Elite"}, QList<int>(26, 3), {1, 2, 3, 4, 5, 6, 7, 8});
+    w.students = {fighter(2000, "Sam", "Stone", 8000), fighter(2000, "Sam", "Stone", 8000)};
+    Entity_GymFighter gus = gymFighter(1050, "Gus", "Gray", 200, "G-1", 3, 4000);
+    gus.trainingLog = {"\nMon Feb 27 2012 - Rested today."};
+    gus.skillProgress[7] = -120;
+    w.fighters = {gus, gymFighter(1051, "Hal", "Hart", 150)};
+    w.organisations = {fullOrganisation(), organisation("GKO", {}, {}, {}, "Regional")};
+    w.freeAgents.insert(8000, fighter(31, "Fay", "Fox", 8000));
+    w.freeAgents.insert(8000, fighter(32, "Gil", "Gow", 8000));
+    w.freeAgents.insert(7100, fighter(33, "Hy", "Hu", 7100));
+    w.offers = {Entity_Booking(1051, "Hal Hart", "GKO Night", "GKO", QDate(2012, 3, 30))};
+    w.bookings = {Entity_Booking(1050, "Gus Gray", "G-1 Event", "G-1", QDate(2012, 8, 6)),
+                  Entity_Booking::emptyFor(1051, "Hal Hart", QDate(2012, 2, 1))};
+    w.amateurs.insert(8000, fighter(41, "Ike", "Ide", 8000));
+    w.amateurs.insert(8000, fighter(42, "Jo", "Judd", 8000));
+    return w;
+}
+
+QByteArray withWord(QByteArray bytes, int at, quint32 word)
+{
+    QByteArray replacement;
+    QDataStream out(&replacement, QIODevice::WriteOnly);
+    out << word;
+    bytes.replace(at, 4, replacement);
+    return bytes;
+}
+
+// where the manager's list of 23 integers starts: id, date, the count and the five strings
+int managerValuesAt(const World &w)
+{
+    return 8 + int(streamed(w.manager.strings()).size());
+}
+
+bool readInto(const QByteArray &bytes, QString *reason = nullptr)
+{
+    QDataStream in(bytes);
+    in.setVersion(StreamForm::version);
+    return world().readFrom(in, reason);
+}
+
+} // namespace
+
+class tst_WorldStream : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Random::useTestClock(9); }
+    void cleanup() { world().resetWorld(); }
+
+    void recordsComeBackEqual()
+    {
+        checkRoundTrip(slot("Tournament Final", "Al Ames", 11, "TBA", 0, true));
+        checkRoundTrip(titleNight());
+        checkRoundTrip(Entity_Event());
+        checkRoundTrip(fullOrganisation());
+        checkRoundTrip(Entity_Org());
+        checkRoundTrip(Entity_Booking());
+        checkRoundTrip(Entity_Booking(1050, "Gus Gray", "G-1 Event", "G-1", QDate(2012, 8, 6)));
+        checkRoundTrip(fullWorld().gym);
+        checkRoundTrip(fullWorld().manager);
+        checkRoundTrip(Entity_Gym());
+        checkRoundTrip(Entity_Manager());
+    }
+
+    // each record is its pack, part after part, in the stream forms of Qt's own lists
+    void recordsKeepTheirLayout()
+    {
+        QByteArray expected;
+        QDataStream out(&expected, QIODevice::WriteOnly);
+        out.setVersion(StreamForm::version);
+        out << QStringList{"Al Ames", "TBA", "Tournament Final", "TBA"} << qint32(11) << qint32(0) << true;
+        QCOMPARE(streamed(slot("Tournament Final", "Al Ames", 11, "TBA", 0, true)).toHex(), expected.toHex());
+
+        expected.clear();
+        QDataStream booking(&expected, QIODevice::WriteOnly);
+        booking.setVersion(StreamForm::version);
+        booking << qint32(0) << QStringList{"N/A", "N/A", "N/A"} << QDate(1999, 1, 1);
+        QCOMPARE(streamed(Entity_Booking()).toHex(), expected.toHex());
+        QCOMPARE(Entity_Booking().dateText(), QString("N/A"));
+
+        expected.clear();
+        QDataStream event(&expected, QIODevice::WriteOnly);
+        event.setVersion(StreamForm::version);
+        const Entity_Event night = titleNight();
+        event << QStringList{"G-1: Ames vs. TBA", "G-1", "Tokyo", "Elite", "Fight Night", "G-1 World Championship"}
+              << QDate(2011, 8, 6) << quint32(2);
+        expected += streamed(night.matchAt(0)) + streamed(night.matchAt(1));
+        event.device()->seek(expected.size());
+        event << night.results() << true;
+        QCOMPARE(streamed(night).toHex(), expected.toHex());
+
+        // the gym: 5 strings, 26 values, 8 entries of the ledger; the manager: 5, 23 and his titles
+        expected.clear();
+        QDataStream gym(&expected, QIODevice::WriteOnly);
+        gym.setVersion(StreamForm::version);
+        QList<qint32> values(26, 0);
+        values[Entity_Gym::Money] = 10000;
+        values[Entity_Gym::StudentSlots] = 3;
+        values[Entity_Gym::FighterSlots] = 1;
+        gym << QStringList{QString(), QString(), QString(), QString(), "Unknown"} << values << QList<qint32>(8, 0);
+        QCOMPARE(streamed(Entity_Gym()).toHex(), expected.toHex());
+
+        expected.clear();
+        QDataStream manager(&expected, QIODevice::WriteOnly);
+        manager.setVersion(StreamForm::version);
+        manager << QStringList{QString(), QString(), QString(), QString(), "Unknown"} << QList<qint32>(23, 0)
+                << QStringList{"T"};
+        Entity_Manager withTitle;
+        withTitle.unpack(withTitle.strings(), withTitle.values(), {"T"});
+        QCOMPARE(streamed(withTitle).toHex(), expected.toHex());
+    }
+
+    void theOrganisationInParts()
+    {
+        const Entity_Org org = fullOrganisation();
+        QList<Entity_Event> past;
+        org.pastEvents(past);
+        QCOMPARE(past.size(), 1);
+        QCOMPARE(past[0].results().size(), 1);
+        const Entity_Org copy = readBack<Entity_Org>(streamed(org));
+        Entity_Org::Roster before;
+        Entity_Org::Roster after;
+        QList<Entity_Event> unused;
+        QStringList strings;
+        Entity_Org::Titles titles;
+        org.pack(strings, unused, unused, before, titles);
+        copy.pack(strings, unused, unused, after, titles);
+        // fighters with equal keys keep their order
+        QCOMPARE(after.values(300)[0].getId(), before.values(300)[0].getId());
+        QCOMPARE(after.values(300)[1].getId(), before.values(300)[1].getId());
+        QCOMPARE(after.firstKey(), -20);
+        QCOMPARE(titles.size(), 2);
+    }
+
+    void aWholeWorldSavesTheSameBytesTwice()
+    {
+        const World w = fullWorld();
+        const QByteArray bytes = w.bytes();
+        QString reason = "untouched";
+        QVERIFY(readInto(bytes, &reason));
+        QCOMPARE(reason, QString("untouched"));
+        QCOMPARE(savedWorld(), bytes);
+        QCOMPARE(world().getNextId(), 1207);
+        QCOMPARE(world().getCurrentDate(), QDate(2012, 2, 29));
+        QCOMPARE(world().fighterById(1050).skillProgress[7], -120);
+        QCOMPARE(world().managerRecord(), w.manager);
+        QCOMPARE(world().gymRecord(), w.gym);
+
+        // the empty world of the first day too
+        world().resetWorld();
+        const QByteArray empty = savedWorld();
+        QVERIFY(readInto(empty));
+        QCOMPARE(savedWorld(), empty);
+    }
+
+    // every cut of a save file is refused, and the running world stays as it was
+    void aTruncatedWorldIsRefused()
+    {
+        World running = fullWorld();
+        running.nextId = 1300;
+        QVERIFY(running.load());
+        const QByteArray before = savedWorld();
+
+        const QByteArray other = fullWorld().bytes();
+        for (int length = 0; length < other.size(); length += (length < 400 ? 1 : 7)) {
+            QString reason;
+            QVERIFY2(!readInto(other.left(length), &reason), qPrintable(QString::number(length)));
+            QVERIFY(!reason.isEmpty());
+        }
+        QVERIFY(!readInto(other.left(other.size() - 1)));
+        QCOMPARE(savedWorld(), before);
+    }
+
+    void aDamagedWorldIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+
+        const World w = fullWorld();
+        const QByteArray good = w.bytes();
+        const int managerStrings = 8;
+        const int managerValues = managerValuesAt(w);
+        QTest::newRow("a manager of six strings") << withWord(good, managerStrings, 6);
+        QTest::newRow("a manager of 22 values") << withWord(good, managerValues, 22);
+        QTest::newRow("a manager of 24 values") << withWord(good, managerValues, 24);
+        QTest::newRow("a count beyond any file") << withWord(good, managerValues, 0x7fffffff);
+        World undated = w;
+        undated.date = QDate();
+        QTest::newRow("no date") << undated.bytes();
+        QTest::newRow("a stranger's file") << QByteArray("<html><body>not a saved game</body></html>");
+        QTest::newRow("an empty file") << QByteArray();
+    }
+
+    void aDamagedWorldIsRefused()
+    {
+        QFETCH(QByteArray, bytes);
+        QVERIFY(fullWorld().load());
+        const QByteArray before = savedWorld();
+        QString reason;
+        QVERIFY(!readInto(bytes, &reason));
+        QVERIFY(!reason.isEmpty());
+        QCOMPARE(savedWorld(), before);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_WorldStream)
+#include "tst_worldstream.moc"
