@@ -13,7 +13,7 @@ xvfb-run -a -s "-screen 0 1100x700x24" bash -c '
   ./orvane & game=$!
   sleep '"$delay"'
   if [ $# -gt 0 ]; then xdotool "$@"; sleep 1; fi
-  xwd -root -silent | convert xwd:- "'"$out"'"
+  xwd -root -silent | convert xwd:- -resize 75% -colors 192 "'"$out"'"
   kill $game
 ' -- "$@"
 echo "$out"

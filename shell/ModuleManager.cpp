@@ -27,6 +27,7 @@ void ModuleManager::initialize()
     hideTopMenu();
 
     layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(menu, 0);
     layout->addWidget(module, 0);
     window->setLayout(layout);
