@@ -1,6 +1,8 @@
 #include "screens/Module_MainMenu.h"
 
+#include "screens/Module_NewGame.h"
 #include "screens/Module_Placeholder.h"
+#include "screens/Module_SaveLoad.h"
 #include "shell/ConfirmDialog.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
@@ -53,12 +55,12 @@ void Module_MainMenu::paintEvent(QPaintEvent *)
 
 void Module_MainMenu::beginNewGame()
 {
-    ModuleManager::instance().changeModule(new Module_Placeholder("New Game"));
+    ModuleManager::instance().changeModule(new Module_NewGame);
 }
 
 void Module_MainMenu::loadGame()
 {
-    ModuleManager::instance().changeModule(new Module_Placeholder("Load Game"));
+    ModuleManager::instance().changeModule(new Module_SaveLoad);
 }
 
 void Module_MainMenu::showHelpScreen()

@@ -1,6 +1,7 @@
 #include "shell/ScreenFactory.h"
 
 #include "screens/Module_Placeholder.h"
+#include "screens/Module_SaveLoad.h"
 #include "shell/TopMenuBar.h"
 
 #include <array>
@@ -18,6 +19,8 @@ QWidget *ScreenFactory::build(int buttonId)
 {
     if (buttonId < 0 || buttonId >= TopMenuBar::ButtonCount)
         buttonId = TopMenuBar::Profile;
+    if (buttonId == TopMenuBar::SaveLoad)
+        return new Module_SaveLoad;
     return new Module_Placeholder(screenNames[buttonId]);
 }
 

@@ -7,15 +7,8 @@
 
 #include <algorithm>
 
-// the default data and the generator of new persons come with the persistence of the game
-#if __has_include("persistence/DefaultWorld.h")
 #include "persistence/DefaultWorld.h"
-#define ORVANE_HAS_DEFAULT_WORLD 1
-#endif
-#if __has_include("persistence/FighterGenerator.h")
 #include "persistence/FighterGenerator.h"
-#define ORVANE_HAS_FIGHTER_GENERATOR 1
-#endif
 
 namespace {
 
@@ -562,20 +555,12 @@ void GameManager::setManagerSkills(const QList<int> &skills)
 
 void GameManager::loadDefaultWorld()
 {
-#ifdef ORVANE_HAS_DEFAULT_WORLD
     DefaultWorld::load(*this);
-#endif
 }
 
 bool GameManager::generateFighter(QString &nameOut, bool forGym)
 {
-#ifdef ORVANE_HAS_FIGHTER_GENERATOR
     return FighterGenerator::generate(*this, nameOut, forGym);
-#else
-    Q_UNUSED(nameOut)
-    Q_UNUSED(forGym)
-    return false;
-#endif
 }
 
 void GameManager::writeTo(QDataStream &out) const

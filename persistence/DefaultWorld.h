@@ -1,0 +1,28 @@
+#pragma once
+
+#include "fighters/Entity_Fighter.h"
+#include "world/Entity_Org.h"
+
+#include <QMultiMap>
+#include <QString>
+
+class GameManager;
+
+// The world of a new game, read from the default files: the eighteen organisations in their
+// order, then the free agents and the amateurs. The gym, the manager, the date and the id counter
+// are left as they are.
+class DefaultWorld
+{
+public:
+    using FighterList = QMultiMap<int, Entity_Fighter>; // ranking score to fighter
+
+    static void load(GameManager &game);
+
+    // One organisation's file. A file that can't be read gives an organisation with the table's
+    // name and nothing else, so the world keeps its eighteen places.
+    static Entity_Org readOrganisation(const QString &path, const QString &name);
+    // One list of men; empty when the file can't be read whole.
+    static FighterList readFighterList(const QString &path);
+    // the men of `list` join `into` under their keys, men with equal keys kept in their order
+    static void addFighters(FighterList &into, const FighterList &list);
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "fighters/Entity_Fighter.h"
+#include "persistence/NationTable.h"
+
+#include <QDate>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+class GameManager;
+
+// Brings new persons into the world: a student for the user's gym, or a free agent of the world.
+// The steps are public because the tool that makes the first world builds its men with them.
+class FighterGenerator
+{
+public:
+    // Makes one person. With `forGym` a student joins the gym, unless it is full or no free name
+    // is left, and the result is true; without it a free agent takes the next id, and the result
+    // is false. `nameOut` gets the full name of the man made.
+    static bool generate(GameManager &game, QString &nameOut, bool forGym);
+
+    struct Origin {
+        int region = 0;
+        QString nation;
+    };
+    // A free agent comes from a main nation, or one time in four from anywhere. A student comes
+    // from his manager's nation when that is a main nation (but for one time in four); otherwise
+    // mostly from a nation of the manager's region, one time in three from anywhere.
+    static Origin chooseOrigin(const NationTable::Lists &lists, bool forGym, const QString &managerNation,
+                               const QString &managerRegion);
+    // a random nation of the region; a region without a list takes its main nations
+    static Origin anyNationOf(const NationTable::Lists &lists, int region);
+
+    struct Names {
+        QStringList first;
+        QStringList last;
+    };
+    // the two lists of a family file, each with the single entry "N/A" when it came up empty
+    static Names readNames(const QString &path);
+    // A first and a last name whose full name nobody in `taken` bears. After a bounded number of
+    // random draws every pair is tried once from a random place; false when all are taken.
+    static bool drawName(const Names &names, const QSet<QString> &taken, QString &first, QString &last);
+
+    // the quality that a roll of 0 to 70 gives
+    static int qualityBonus(int roll);
+
+    // What a person is made of beyond chance.
+    struct Recipe {
+        bool forGym = false;
+        QString gymStyle; // a student often takes the gym's style and always its colours
+        QString gymShorts;
+        QString gymTrim;
+        int grade = -1; // -1: drawn as for a free agent (two rolls of 0 to 9, and 7 more quality)
+        int seer = 10;  // who reads his traits: a manager's Intuition, or 10 for the world
+        QDate today;
+    };
+    // One new man of 18 from an origin and a name: his strings, attributes, traits and bio, looks
+    // and birth date. Id 0 and ranking score 8000; the attributes are left unclamped.
+    static Entity_Fighter makePerson(const Origin &origin, const QString &first, const QString &last,
+                                     const Recipe &recipe);
+
+    // the full names of every man of the world and the gym
+    static QSet<QString> takenNames(const GameManager &game);
+
+    static const QStringList &backgrounds();
+    static const QStringList &styles();
+    static const QStringList &colours();
+    static const QStringList &hairColours();
+};

@@ -1,0 +1,397 @@
+#include "screens/Module_NewGame.h"
+
+#include "fighters/Entity_Gym.h"
+#include "fighters/Entity_Manager.h"
+#include "shell/ConfirmDialog.h"
+#include "shell/ModuleManager.h"
+#include "shell/ScreenFactory.h"
+#include "shell/StyleSheetFile.h"
+#include "shell/TopMenuBar.h"
+#include "screens/Module_MainMenu.h"
+#include "world/GameManager.h"
+#include "/work/build-newgame/shim/NationShim.h"
+
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace {
+
+// the three panels hold two groups each; the 18 boxes run in the order of the manager's skills
+struct SkillGroup {
+    const char *header;
+    std::array<const char *, 3> skills;
+};
+
+constexpr std::array<SkillGroup, 6> skillGroups{{
+    {"Training - Offense", {"Punch", "Kick", "Clinch Off."}},
+    {"Training - Defense", {"Movement", "Guard", "Clinch Def."}},
+    {"Training - Physical", {"Power", "Speed", "Conditioning"}},
+    {"Training - Mental", {"Timing", "Intelligence", "Discipline"}},
+    {"Abilities", {"Scouting", "Motivating", "Cornering"}},
+    {"", {"Negotiating", "Charisma", "Intuition"}},
+}};
+constexpr int GroupsPerPanel = 2;
+constexpr int PanelCount = int(skillGroups.size()) / GroupsPerPanel;
+constexpr int TopSkillLevel = 10;
+
+constexpr std::array<const char *, 7> signatureStyles{"Shootboxing", "Kickboxing", "Boxing", "Taekwondo",
+                                                       "Muay Thai",   "MMA",        "Karate"};
+
+constexpr std::array<const char *, 14> kitColours{"Black", "Blue",         "Dark Blue", "Dark Green", "Dark Red",
+                                                   "Gold",  "Green",        "Light Yellow", "Purple",  "Red",
+                                                   "Silver", "Teal",        "White",     "Yellow"};
+
+const QString nationFileName = QStringLiteral("./Resources/Defaults/default_nations.dat");
+
+QStringList textList(const char *const *begin, const char *const *end)
+{
+    QStringList list;
+    for (auto it = begin; it != end; ++it)
+        list << QString::fromLatin1(*it);
+    return list;
+}
+
+template <std::size_t N>
+QStringList textList(const std::array<const char *, N> &table)
+{
+    return textList(table.data(), table.data() + N);
+}
+
+QLabel *headingLabel(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setProperty("heading", true);
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+QComboBox *comboBox(const QString &name, const QStringList &items = {})
+{
+    auto *box = new QComboBox;
+    box->setObjectName(name);
+    box->addItems(items);
+    return box;
+}
+
+QLineEdit *lineEdit(const QString &name)
+{
+    auto *edit = new QLineEdit;
+    edit->setObjectName(name);
+    return edit;
+}
+
+QPushButton *pushButton(const QString &text, int width)
+{
+    auto *button = new QPushButton(text);
+    button->setFixedWidth(width);
+    button->setMinimumHeight(40);
+    return button;
+}
+
+// a row of buttons held in the middle of the page
+QHBoxLayout *buttonRow(std::initializer_list<QPushButton *> buttons)
+{
+    auto *row = new QHBoxLayout;
+    row->addStretch(1);
+    for (QPushButton *button : buttons)
+        row->addWidget(button);
+    row->addStretch(1);
+    row->setSpacing(40);
+    return row;
+}
+
+} // namespace
+
+Module_NewGame::Module_NewGame(QWidget *parent)
+    : QWidget(parent)
+    , screenLayout(new QVBoxLayout(this))
+{
+    QList<QStringList> lists;
+    if (!NationShim::readNations(lists))
+        // shown over the screen once it stands; the screen goes on with empty nation lists
+        QMetaObject::invokeMethod(this, &Module_NewGame::warnOfMissingNations, Qt::QueuedConnection);
+    for (int region = 0; region < RegionCount; ++region)
+        nations[region] = lists.value(region);
+
+    managerPage = buildManagerPage();
+    gymPage = buildGymPage();
+    gymPage->hide();
+    screenLayout->addWidget(managerPage);
+
+    regionBox->addItems(NationShim::regionNames());
+    regionBox->setCurrentIndex(0);
+    changeRegion(0);
+    connect(regionBox, &QComboBox::currentIndexChanged, this, &Module_NewGame::changeRegion);
+    connect(nationBox, &QComboBox::activated, this, &Module_NewGame::changeFlagDisplay);
+    for (QSpinBox *box : skillBoxes)
+        connect(box, &QSpinBox::valueChanged, this, &Module_NewGame::calculateSkill);
+    connect(primaryColourBox, &QComboBox::activated, this, &Module_NewGame::changeColourDisplay);
+    connect(secondaryColourBox, &QComboBox::activated, this, &Module_NewGame::changeColourDisplay);
+    changeColourDisplay();
+
+    connect(mainMenuButton, &QPushButton::clicked, this, &Module_NewGame::backToMainMenu);
+    connect(gymCreationButton, &QPushButton::clicked, this, &Module_NewGame::aheadToGymInfo);
+    connect(managerCreationButton, &QPushButton::clicked, this, &Module_NewGame::backToManagerInfo);
+    connect(gameButton, &QPushButton::clicked, this, &Module_NewGame::aheadToGame);
+}
+
+QWidget *Module_NewGame::buildManagerPage()
+{
+    auto *page = new QWidget(this);
+    page->setObjectName("managerPage");
+    auto *column = new QVBoxLayout(page);
+
+    firstNameEdit = lineEdit("firstNameEdit");
+    lastNameEdit = lineEdit("lastNameEdit");
+    regionBox = comboBox("regionBox");
+    nationBox = comboBox("nationBox");
+    flagLabel = new QLabel;
+    flagLabel->setObjectName("flagLabel");
+    flagLabel->setFixedSize(160, 100);
+
+    auto *person = new QGridLayout;
+    person->addWidget(new QLabel("First Name:"), 0, 0);
+    person->addWidget(firstNameEdit, 0, 1);
+    person->addWidget(new QLabel("Last Name:"), 1, 0);
+    person->addWidget(lastNameEdit, 1, 1);
+    person->addWidget(new QLabel("Region:"), 0, 3);
+    person->addWidget(regionBox, 0, 4);
+    person->addWidget(new QLabel("Nationality:"), 1, 3);
+    person->addWidget(nationBox, 1, 4);
+    person->addWidget(flagLabel, 0, 6, 2, 1);
+    person->setColumnMinimumWidth(1, 200);
+    person->setColumnMinimumWidth(2, 30);
+    person->setColumnMinimumWidth(4, 200);
+    person->setColumnMinimumWidth(5, 30);
+    person->setVerticalSpacing(20);
+    auto *personRow = new QHBoxLayout;
+    personRow->addStretch(1);
+    personRow->addLayout(person);
+    personRow->addStretch(1);
+
+    skillPointsLabel = headingLabel("Skill Points: " + QString::number(skillPoints));
+    skillPointsLabel->setObjectName("skillPointsLabel");
+
+    auto *panels = new QHBoxLayout;
+    panels->addStretch(1);
+    for (int panel = 0; panel < PanelCount; ++panel)
+        panels->addWidget(buildSkillPanel(panel));
+    panels->addStretch(1);
+    panels->setSpacing(30);
+
+    mainMenuButton = pushButton("Back to Main Menu", 280);
+    gymCreationButton = pushButton("Advance to Gym Creation", 280);
+
+    column->addStretch(1);
+    column->addWidget(headingLabel("Create Your Manager"));
+    column->addSpacing(15);
+    column->addLayout(personRow);
+    column->addSpacing(15);
+    column->addWidget(skillPointsLabel);
+    column->addLayout(panels);
+    column->addSpacing(25);
+    column->addLayout(buttonRow({mainMenuButton, gymCreationButton}));
+    column->addStretch(1);
+    return page;
+}
+
+QWidget *Module_NewGame::buildSkillPanel(int panel)
+{
+    auto *frame = new QFrame;
+    frame->setProperty("panel", true);
+    frame->setFixedSize(200, 250);
+    auto *grid = new QGridLayout(frame);
+    int row = 0;
+    for (int group = panel * GroupsPerPanel; group < (panel + 1) * GroupsPerPanel; ++group) {
+        auto *header = new QLabel(skillGroups[group].header);
+        header->setStyleSheet("color: #F4C868;");
+        grid->addWidget(header, row++, 0, 1, 2);
+        for (std::size_t skill = 0; skill < skillGroups[group].skills.size(); ++skill) {
+            const int index = group * 3 + int(skill);
+            auto *box = new QSpinBox;
+            box->setObjectName(QString("skillBox%1").arg(index));
+            box->setRange(0, TopSkillLevel);
+            box->setValue(0);
+            box->setFixedWidth(60);
+            skillBoxes[index] = box;
+            grid->addWidget(new QLabel(skillGroups[group].skills[skill]), row, 0);
+            grid->addWidget(box, row++, 1);
+        }
+    }
+    return frame;
+}
+
+QWidget *Module_NewGame::buildGymPage()
+{
+    auto *page = new QWidget(this);
+    page->setObjectName("gymPage");
+    auto *column = new QVBoxLayout(page);
+
+    gymNameEdit = lineEdit("gymNameEdit");
+    styleBox = comboBox("styleBox", textList(signatureStyles));
+    primaryColourBox = comboBox("primaryColourBox", textList(kitColours));
+    secondaryColourBox = comboBox("secondaryColourBox", textList(kitColours));
+    emblemLabel = new QLabel;
+    emblemLabel->setObjectName("emblemLabel");
+    emblemLabel->setFixedSize(250, 250);
+
+    auto *form = new QGridLayout;
+    const std::array<std::pair<const char *, QWidget *>, 4> fields{{
+        {"Gym Name", gymNameEdit},
+        {"Signature Style", styleBox},
+        {"Primary Colour", primaryColourBox},
+        {"Secondary Colour", secondaryColourBox},
+    }};
+    for (int row = 0; row < int(fields.size()); ++row) {
+        form->addWidget(new QLabel(fields[row].first), row, 0);
+        form->addWidget(fields[row].second, row, 1);
+    }
+    form->setColumnMinimumWidth(1, 220);
+    form->setVerticalSpacing(20);
+    form->setHorizontalSpacing(15);
+
+    auto *gymRow = new QHBoxLayout;
+    gymRow->addStretch(1);
+    gymRow->addLayout(form);
+    gymRow->addSpacing(50);
+    gymRow->addWidget(emblemLabel);
+    gymRow->addStretch(1);
+
+    managerCreationButton = pushButton("Back to Manager Creation", 280);
+    gameButton = pushButton("Advance to Game", 280);
+
+    column->addStretch(1);
+    column->addWidget(headingLabel("Create Your Gym"));
+    column->addSpacing(30);
+    column->addLayout(gymRow);
+    column->addSpacing(40);
+    column->addLayout(buttonRow({managerCreationButton, gameButton}));
+    column->addStretch(1);
+    return page;
+}
+
+void Module_NewGame::warnOfMissingNations()
+{
+    // a screen already left behind has nobody to warn
+    if (!isVisible())
+        return;
+    auto *warning = new QMessageBox(QMessageBox::Warning, "Orvane",
+                                    "Warning: " + nationFileName
+                                        + " - File not found. Proceeding may cause errors with the game.",
+                                    QMessageBox::Ok, this);
+    warning->setAttribute(Qt::WA_DeleteOnClose);
+    // the game's dialog palette; the warning sign stands free of the text's frame
+    warning->setStyleSheet(ConfirmDialog::styleSheet()
+                           + "QLabel#qt_msgboxex_icon_label { border: none; background: transparent; }");
+    warning->open();
+}
+
+void Module_NewGame::paintEvent(QPaintEvent *)
+{
+    StyleSheetFile::paintBackground(this);
+}
+
+void Module_NewGame::changeRegion(int index)
+{
+    nationBox->clear();
+    if (index >= 0 && index < RegionCount)
+        nationBox->addItems(nations[index]);
+    changeFlagDisplay();
+}
+
+void Module_NewGame::changeFlagDisplay()
+{
+    const QPixmap flag("./Resources/Flags/flag_" + nationBox->currentText() + ".png");
+    if (flag.isNull())
+        flagLabel->clear();
+    else
+        flagLabel->setPixmap(flag.scaled(flagLabel->size()));
+}
+
+// The sum of the boxes never passes the points at hand: a box raised past them steps back, and it
+// stays capped where it stands until points are free again. Stepping back sends valueChanged, so
+// this runs again inside itself, and that inner run keeps the count up to date.
+void Module_NewGame::calculateSkill()
+{
+    int sum = 0;
+    for (const QSpinBox *box : skillBoxes)
+        sum += box->value();
+    skillPoints = StartingSkillPoints - sum;
+    auto *raised = qobject_cast<QSpinBox *>(sender());
+    while (skillPoints < 0 && raised) {
+        raised->setValue(raised->value() - 1);
+        raised->setMaximum(raised->value());
+    }
+    if (skillPoints != 0)
+        for (QSpinBox *box : skillBoxes)
+            box->setMaximum(TopSkillLevel);
+    skillPointsLabel->setText("Skill Points: " + QString::number(skillPoints));
+}
+
+void Module_NewGame::changeColourDisplay()
+{
+    QPixmap emblem("./Resources/Shorts/gym_shorts_" + primaryColourBox->currentText() + ".jpg");
+    if (emblem.isNull()) {
+        emblemLabel->clear();
+        return;
+    }
+    QPainter painter(&emblem);
+    painter.drawPixmap(0, 0, QPixmap("./Resources/Trim/gym_trim_" + secondaryColourBox->currentText() + ".png"));
+    painter.end();
+    emblemLabel->setPixmap(emblem);
+}
+
+void Module_NewGame::backToMainMenu()
+{
+    ModuleManager::instance().changeModule(new Module_MainMenu);
+}
+
+void Module_NewGame::swapPage(QWidget *from, QWidget *to)
+{
+    from->hide();
+    screenLayout->removeWidget(from);
+    screenLayout->addWidget(to);
+    to->show();
+}
+
+void Module_NewGame::aheadToGymInfo()
+{
+    swapPage(managerPage, gymPage);
+}
+
+void Module_NewGame::backToManagerInfo()
+{
+    swapPage(gymPage, managerPage);
+}
+
+void Module_NewGame::aheadToGame()
+{
+    const Entity_Manager unknownManager;
+    QList<int> managerValues = unknownManager.values();
+    for (int skill = 0; skill < SkillBoxCount; ++skill)
+        managerValues[Entity_Manager::Punch + skill] = skillBoxes[skill]->value();
+    GameManager &world = GameManager::instance();
+    world.setManager({firstNameEdit->text(), lastNameEdit->text(), regionBox->currentText(), nationBox->currentText(),
+                      unknownManager.text(Entity_Manager::ManagerReputation)},
+                     managerValues, {});
+
+    // a new gym starts with the money and the places of the first day
+    const Entity_Gym newGym;
+    world.setGym({gymNameEdit->text(), styleBox->currentText(), primaryColourBox->currentText(),
+                  secondaryColourBox->currentText(), newGym.text(Entity_Gym::GymPrestige)},
+                 newGym.values(), newGym.ledger());
+
+    world.loadDefaultWorld();
+    ModuleManager::instance().showTopMenu();
+    ModuleManager::instance().changeModule(ScreenFactory::build(TopMenuBar::Profile));
+}

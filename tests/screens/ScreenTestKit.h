@@ -1,0 +1,109 @@
+#pragma once
+
+#include "fighters/StreamForm.h"
+#include "shell/ModuleManager.h"
+#include "world/GameManager.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+// Drives the game's screens as a player would, with nobody at the keyboard.
+namespace ScreenTestKit {
+
+// Answers the modal dialogs that come up by pressing the given buttons in turn, and keeps the
+// text and the offered buttons of each; a dialog beyond the script is cancelled and kept too.
+class DialogScript : public QObject
+{
+public:
+    struct Seen {
+        QString text;
+        QStringList buttons;
+    };
+    QList<Seen> seen;
+
+    explicit DialogScript(const QStringList &presses = {})
+        : presses(presses)
+    {
+        poll();
+    }
+
+private:
+    void poll()
+    {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (dialog && dialog->isVisible())
+            answer(dialog);
+        QTimer::singleShot(5, this, [this] { poll(); });
+    }
+
+    void answer(QDialog *dialog)
+    {
+        Seen shown;
+        auto *box = qobject_cast<QMessageBox *>(dialog);
+        shown.text = box ? box->text() : dialog->findChild<QLabel *>()->text();
+        const QString wanted = presses.isEmpty() ? QString() : presses.takeFirst();
+        QPushButton *pressed = nullptr;
+        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+            if (!button->isVisibleTo(dialog))
+                continue;
+            shown.buttons << button->text();
+            if (button->text() == wanted)
+                pressed = button;
+        }
+        seen << shown;
+        if (pressed)
+            pressed->click();
+        else
+            dialog->reject();
+    }
+
+    QStringList presses;
+};
+
+// the shown button of the current screen that reads `text`
+inline QPushButton *screenButton(const QString &text)
+{
+    QWidget *screen = ModuleManager::instance().currentModule();
+    for (QPushButton *button : screen->findChildren<QPushButton *>())
+        if (button->text() == text && button->isVisibleTo(screen))
+            return button;
+    return nullptr;
+}
+
+template <typename T>
+T *screenWidget(const QString &name)
+{
+    return ModuleManager::instance().currentModule()->findChild<T *>(name);
+}
+
+// the world as a save holds it: two worlds are equal when these bytes are
+inline QByteArray worldBytes()
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QDataStream out(&buffer);
+    out.setVersion(StreamForm::version);
+    GameManager::instance().writeTo(out);
+    return bytes;
+}
+
+// a nations file of the default data: one list for each of the eight regions
+inline void writeNations(const QList<QStringList> &regions)
+{
+    QDir().mkpath("Resources/Defaults");
+    QFile file("Resources/Defaults/default_nations.dat");
+    file.open(QIODevice::WriteOnly);
+    QDataStream out(&file);
+    out.setVersion(StreamForm::version);
+    for (const QStringList &nations : regions)
+        out << nations;
+}
+
+} // namespace ScreenTestKit

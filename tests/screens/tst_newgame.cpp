@@ -1,0 +1,244 @@
+#include "screens/ScreenTestKit.h"
+
+#include "fighters/Entity_Gym.h"
+#include "screens/Module_MainMenu.h"
+#include "screens/Module_NewGame.h"
+#include "shell/ScreenFactory.h"
+#include "shell/TopMenuBar.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace ScreenTestKit;
+
+namespace {
+
+const QList<QStringList> nationLists{{"Canada", "United States"}, {"Argentina", "Brazil", "Mexico"},
+                                     {"England", "France"},       {"Russia"},
+                                     {"Ghana"},                   {"Egypt", "Israel"},
+                                     {"Japan"},                   {"Australia", "Thailand"}};
+
+// each flag, shorts and trim picture of the test is one plain colour; the trim a band on top
+void paintPicture(const QString &path, QColor ground, QColor band = Qt::transparent)
+{
+    QImage image(250, 250, QImage::Format_ARGB32);
+    image.fill(ground);
+    QPainter(&image).fillRect(0, 20, 250, 30, band);
+    QDir().mkpath(QFileInfo(path).path());
+    QVERIFY(image.save(path));
+}
+
+// a label's colour at a point, as near as a JPEG keeps it
+bool shows(const QLabel *label, QPoint at, QColor colour)
+{
+    const QColor shown = label->pixmap().toImage().pixelColor(at);
+    return qAbs(shown.red() - colour.red()) + qAbs(shown.green() - colour.green())
+               + qAbs(shown.blue() - colour.blue())
+        < 20;
+}
+
+QSpinBox *skillBox(int index)
+{
+    return screenWidget<QSpinBox>(QString("skillBox%1").arg(index));
+}
+
+QString pointsText()
+{
+    return screenWidget<QLabel>("skillPointsLabel")->text();
+}
+
+// the player's pick, with the box's own signal of a choice
+void choose(const QString &boxName, const QString &text)
+{
+    auto *box = screenWidget<QComboBox>(boxName);
+    box->setCurrentIndex(box->findText(text));
+    QVERIFY2(box->currentText() == text, qPrintable(text));
+    emit box->activated(box->currentIndex());
+}
+
+} // namespace
+
+class tst_NewGame : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(root.isValid());
+        QDir::setCurrent(root.path());
+        writeNations(nationLists);
+        paintPicture("Resources/Flags/flag_Egypt.png", Qt::red);
+        paintPicture("Resources/Flags/flag_Israel.png", Qt::blue);
+        paintPicture("Resources/Flags/flag_Japan.png", Qt::green);
+        paintPicture("Resources/Shorts/gym_shorts_Dark Blue.jpg", Qt::darkBlue);
+        paintPicture("Resources/Trim/gym_trim_Gold.png", Qt::transparent, Qt::yellow);
+        ModuleManager::instance().initialize();
+    }
+
+    void init()
+    {
+        ModuleManager::instance().changeModule(new Module_MainMenu);
+        QTest::mouseClick(screenButton("New Game"), Qt::LeftButton);
+        QVERIFY(qobject_cast<Module_NewGame *>(ModuleManager::instance().currentModule()));
+    }
+
+    // 60 points for 18 boxes: a box raised past the points left steps back and stays capped
+    // until points are free again, and no box passes 10
+    void skillPoints_data()
+    {
+        QTest::addColumn<QList<int>>("start");
+        QTest::addColumn<int>("capped"); // a box raised at no point left before the move, or -1
+        QTest::addColumn<int>("box");
+        QTest::addColumn<int>("raiseTo"); // -1: one step up by the arrow key
+        QTest::addColumn<int>("value");
+        QTest::addColumn<int>("points");
+        QTest::addColumn<int>("maximum");
+        const QList<int> allSpent(6, 10);
+        QTest::newRow("at 1 point left a box at 3 rises to 4")
+            << QList<int>{10, 10, 10, 10, 10, 3, 6} << -1 << 5 << -1 << 4 << 0 << 10;
+        QTest::newRow("at no point left a raised box stays") << allSpent << -1 << 17 << -1 << 0 << 0 << 0;
+        QTest::newRow("a box typed past the points keeps what was left")
+            << QList<int>{10, 10, 10, 10, 10, 5} << -1 << 9 << 8 << 5 << 0 << 5;
+        QTest::newRow("a box at 10 goes no higher") << QList<int>{10} << -1 << 0 << -1 << 10 << 50 << 10;
+        QTest::newRow("a capped box stays capped") << allSpent << 6 << 6 << -1 << 0 << 0 << 0;
+        QTest::newRow("lowering a box frees the capped one") << allSpent << 6 << 5 << 9 << 9 << 1 << 10;
+    }
+
+    void skillPoints()
+    {
+        QFETCH(QList<int>, start);
+        QFETCH(int, capped);
+        QFETCH(int, box);
+        QFETCH(int, raiseTo);
+        QFETCH(int, points);
+        for (int i = 0; i < start.size(); ++i)
+            skillBox(i)->setValue(start[i]);
+        if (capped >= 0)
+            QTest::keyClick(skillBox(capped), Qt::Key_Up);
+        if (raiseTo < 0)
+            QTest::keyClick(skillBox(box), Qt::Key_Up);
+        else
+            skillBox(box)->setValue(raiseTo);
+
+        QTEST(skillBox(box)->value(), "value");
+        QTEST(skillBox(box)->maximum(), "maximum");
+        QCOMPARE(pointsText(), "Skill Points: " + QString::number(points));
+        if (capped >= 0)
+            QCOMPARE(skillBox(capped)->maximum(), points == 0 ? 0 : 10);
+        int sum = 0;
+        for (int i = 0; i < Module_NewGame::SkillBoxCount; ++i)
+            sum += skillBox(i)->value();
+        QCOMPARE(sum, 60 - points);
+    }
+
+    void theValuesStayBetweenThePages()
+    {
+        QTest::keyClicks(screenWidget<QLineEdit>("firstNameEdit"), "Tomas");
+        choose("regionBox", "Middle East");
+        choose("nationBox", "Israel");
+        QVERIFY(shows(screenWidget<QLabel>("flagLabel"), {80, 50}, Qt::blue));
+        skillBox(17)->setValue(9);
+        QTest::mouseClick(screenButton("Advance to Gym Creation"), Qt::LeftButton);
+        QVERIFY(!screenWidget<QWidget>("managerPage")->isVisible());
+        QTest::keyClicks(screenWidget<QLineEdit>("gymNameEdit"), "Iron Lotus");
+        choose("primaryColourBox", "Dark Blue");
+        choose("secondaryColourBox", "Gold");
+        auto *emblem = screenWidget<QLabel>("emblemLabel");
+        QVERIFY(shows(emblem, {125, 150}, Qt::darkBlue) && shows(emblem, {125, 30}, Qt::yellow));
+
+        QTest::mouseClick(screenButton("Back to Manager Creation"), Qt::LeftButton);
+        QVERIFY(!screenWidget<QWidget>("gymPage")->isVisible());
+        QCOMPARE(screenWidget<QLineEdit>("firstNameEdit")->text(), QString("Tomas"));
+        QCOMPARE(screenWidget<QComboBox>("nationBox")->currentText(), QString("Israel"));
+        QCOMPARE(pointsText(), QString("Skill Points: 51"));
+        QTest::mouseClick(screenButton("Advance to Gym Creation"), Qt::LeftButton);
+        QCOMPARE(screenWidget<QLineEdit>("gymNameEdit")->text(), QString("Iron Lotus"));
+
+        // another region shows its first nation and that nation's flag
+        QTest::mouseClick(screenButton("Back to Manager Creation"), Qt::LeftButton);
+        choose("regionBox", "East Asia");
+        QCOMPARE(screenWidget<QComboBox>("nationBox")->currentText(), QString("Japan"));
+        QVERIFY(shows(screenWidget<QLabel>("flagLabel"), {80, 50}, Qt::green));
+        choose("regionBox", "Middle East");
+        QCOMPARE(screenWidget<QComboBox>("nationBox")->count(), 2);
+        QVERIFY(shows(screenWidget<QLabel>("flagLabel"), {80, 50}, Qt::red));
+        // a nation without a flag shows none
+        choose("regionBox", "Oceania");
+        QVERIFY(screenWidget<QLabel>("flagLabel")->pixmap().isNull());
+    }
+
+    void backToTheMainMenuLeavesNoTrace()
+    {
+        const QByteArray before = worldBytes();
+        QTest::keyClicks(screenWidget<QLineEdit>("firstNameEdit"), "Nobody");
+        QTest::mouseClick(screenButton("Back to Main Menu"), Qt::LeftButton);
+        QVERIFY(qobject_cast<Module_MainMenu *>(ModuleManager::instance().currentModule()));
+        QCOMPARE(worldBytes(), before);
+    }
+
+    void enteringTheGameMakesManagerAndGym()
+    {
+        QTest::keyClicks(screenWidget<QLineEdit>("firstNameEdit"), "Mara");
+        QTest::keyClicks(screenWidget<QLineEdit>("lastNameEdit"), "Kovac");
+        choose("regionBox", "Western Europe");
+        choose("nationBox", "France");
+        QList<int> skills;
+        for (int box = 0; box < Module_NewGame::SkillBoxCount; ++box) {
+            skills << box % 5;
+            skillBox(box)->setValue(box % 5);
+        }
+        QTest::mouseClick(screenButton("Advance to Gym Creation"), Qt::LeftButton);
+        QTest::keyClicks(screenWidget<QLineEdit>("gymNameEdit"), "Golden Fist");
+        choose("styleBox", "Karate");
+        choose("primaryColourBox", "Teal");
+        choose("secondaryColourBox", "Gold");
+        QTest::mouseClick(screenButton("Advance to Game"), Qt::LeftButton);
+
+        QStringList strings, titles;
+        QList<int> values, ledger;
+        GameManager::instance().managerPack(strings, values, titles);
+        QCOMPARE(strings, QStringList({"Mara", "Kovac", "Western Europe", "France", "Unknown"}));
+        QCOMPARE(values, QList<int>{0} + skills + QList<int>(4, 0));
+        QVERIFY(titles.isEmpty());
+        GameManager::instance().gymPack(strings, values, ledger);
+        QCOMPARE(strings, QStringList({"Golden Fist", "Karate", "Teal", "Gold", "Unknown"}));
+        QList<int> gymValues(Entity_Gym::ValueCount, 0);
+        gymValues[Entity_Gym::Money] = 10000;
+        gymValues[Entity_Gym::StudentSlots] = 3;
+        gymValues[Entity_Gym::FighterSlots] = 1;
+        QCOMPARE(values, gymValues);
+        QCOMPARE(ledger, QList<int>(8, 0));
+
+        // the game opens on the profile, with the top menu over it
+        QVERIFY(ModuleManager::instance().isTopMenuVisible());
+        std::unique_ptr<QWidget> profile(ScreenFactory::build(TopMenuBar::Profile));
+        QCOMPARE(ModuleManager::instance().currentModule()->metaObject()->className(),
+                 profile->metaObject()->className());
+        ModuleManager::instance().hideTopMenu();
+        GameManager::instance().resetWorld();
+    }
+
+    void aMissingNationFileIsToldAndTheNationsStayEmpty()
+    {
+        QVERIFY(QFile::rename("Resources/Defaults/default_nations.dat", "moved.dat"));
+        DialogScript script;
+        init();
+        QTRY_COMPARE(script.seen.size(), 1);
+        QVERIFY(QFile::rename("moved.dat", "Resources/Defaults/default_nations.dat"));
+        QCOMPARE(script.seen[0].text, QString("Warning: ./Resources/Defaults/default_nations.dat - File not found. "
+                                              "Proceeding may cause errors with the game."));
+        QCOMPARE(screenWidget<QComboBox>("regionBox")->count(), 8);
+        QCOMPARE(screenWidget<QComboBox>("nationBox")->count(), 0);
+    }
+
+private:
+    QTemporaryDir root;
+};
+
+QTEST_MAIN(tst_NewGame)
+#include "tst_newgame.moc"

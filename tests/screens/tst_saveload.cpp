@@ -1,0 +1,272 @@
+#include "screens/ScreenTestKit.h"
+
+#include "screens/Module_MainMenu.h"
+#include "screens/Module_SaveLoad.h"
+#include "shell/TopMenuBar.h"
+
+#include <QDirIterator>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace ScreenTestKit;
+
+namespace {
+
+const QString saves = QStringLiteral("Resources/Saves/");
+const QStringList both{"Accept", "Cancel"};
+const QStringList acceptAlone{"Accept"};
+const QStringList cancelAlone{"Cancel"};
+
+bool onSaveScreen()
+{
+    return qobject_cast<Module_SaveLoad *>(ModuleManager::instance().currentModule());
+}
+
+// the save screen of a running game, by its button on the top menu, or from the main menu
+void openSaveScreen(bool inGame)
+{
+    ModuleManager::instance().changeModule(new Module_MainMenu);
+    ModuleManager::instance().showTopMenu();
+    if (inGame) {
+        QTest::mouseClick(ModuleManager::instance().topMenu()->button(TopMenuBar::SaveLoad), Qt::LeftButton);
+    } else {
+        ModuleManager::instance().hideTopMenu();
+        QTest::mouseClick(screenButton("Load Game"), Qt::LeftButton);
+    }
+    QVERIFY(onSaveScreen());
+}
+
+QStringList listed()
+{
+    QStringList names;
+    auto *list = screenWidget<QListWidget>("saveList");
+    for (int row = 0; row < list->count(); ++row)
+        names << list->item(row)->text();
+    return names;
+}
+
+void pick(const QString &name)
+{
+    auto *list = screenWidget<QListWidget>("saveList");
+    QListWidgetItem *item = list->findItems(name, Qt::MatchExactly).value(0);
+    QVERIFY2(item, qPrintable(name));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
+}
+
+// presses a button of the screen and answers the dialogs that follow as given
+QList<DialogScript::Seen> press(const QString &button, const QStringList &answers)
+{
+    DialogScript script(answers);
+    QTest::mouseClick(screenButton(button), Qt::LeftButton);
+    return script.seen;
+}
+
+QList<DialogScript::Seen> saveAs(const QString &name, const QStringList &answers)
+{
+    screenWidget<QLineEdit>("nameEdit")->clear();
+    QTest::keyClicks(screenWidget<QLineEdit>("nameEdit"), name);
+    return press("Save", answers);
+}
+
+QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// every file below the working folder, and the one place above it that a name could reach
+QStringList allFiles()
+{
+    QStringList files{QFileInfo("../Escaped.dat").exists() ? "../Escaped.dat" : ""};
+    for (QDirIterator it(".", QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext();)
+        files << it.next();
+    files.sort();
+    return files;
+}
+
+} // namespace
+
+class tst_SaveLoad : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(root.isValid());
+        QDir::setCurrent(root.path());
+        ModuleManager::instance().initialize();
+    }
+
+    void cleanup()
+    {
+        GameManager::instance().resetWorld();
+        QDir(saves).removeRecursively();
+    }
+
+    void theScreenSavesOnlyInAGame()
+    {
+        openSaveScreen(false);
+        QVERIFY(!screenButton("Save"));
+        QVERIFY(!screenWidget<QLineEdit>("nameEdit")->isVisibleTo(ModuleManager::instance().mainWindow()));
+        QVERIFY(screenButton("Load") && screenButton("Delete"));
+        QTest::mouseClick(screenButton("Back to Main Menu"), Qt::LeftButton);
+        QVERIFY(qobject_cast<Module_MainMenu *>(ModuleManager::instance().currentModule()));
+
+        openSaveScreen(true);
+        QVERIFY(screenButton("Save") && screenButton("Load") && screenButton("Delete"));
+        QVERIFY(!screenButton("Back to Main Menu"));
+    }
+
+    // what a press gives when there is nothing to work on: one message, Cancel alone, no file
+    void nothingToWorkOn_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("load without saves") << "Load" << "Please specify a file to load.";
+        QTest::newRow("delete without saves") << "Delete" << "Please specify a file to delete.";
+        QTest::newRow("save without a name") << "Save" << "Please specify a file name for your save.";
+    }
+
+    void nothingToWorkOn()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, message);
+        openSaveScreen(true);
+        const QStringList before = allFiles();
+        const auto seen = press(button, {"Accept", "Accept"});
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, message);
+        QCOMPARE(seen[0].buttons, cancelAlone);
+        QCOMPARE(allFiles(), before);
+    }
+
+    void savingAsksAndListsByName()
+    {
+        openSaveScreen(true);
+        auto seen = saveAs("Rio", {"Cancel"});
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QString("Save as \"Rio\"?"));
+        QCOMPARE(seen[0].buttons, both);
+        QVERIFY(QDir(saves).entryList(QDir::Files | QDir::Hidden).isEmpty());
+
+        for (const QString &name : QStringList{"Rio", "Atlas", "Mirror Match"}) {
+            seen = saveAs(name, {"Accept", "Accept"});
+            QCOMPARE(seen.size(), 2);
+            QCOMPARE(seen[1].text, QString("File saved successfully."));
+            QCOMPARE(seen[1].buttons, acceptAlone);
+            QVERIFY(screenWidget<QLineEdit>("nameEdit")->text().isEmpty());
+        }
+        QCOMPARE(listed(), QStringList({"Atlas", "Mirror Match", "Rio"}));
+
+        // a game picked in the list gives its name, and saving over it asks first
+        const QByteArray first = fileBytes(saves + "Mirror Match.dat");
+        GameManager::instance().advanceDate();
+        pick("Mirror Match");
+        QCOMPARE(screenWidget<QLineEdit>("nameEdit")->text(), QString("Mirror Match"));
+        seen = press("Save", {"Cancel"});
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QString("That file already exists. Overwrite?"));
+        QCOMPARE(fileBytes(saves + "Mirror Match.dat"), first);
+        QCOMPARE(press("Save", {"Accept", "Accept"}).size(), 2);
+        QCOMPARE(fileBytes(saves + "Mirror Match.dat"), worldBytes());
+
+        pick("Atlas");
+        seen = press("Delete", {"Accept", "Accept"});
+        QCOMPARE(seen.size(), 2);
+        QCOMPARE(seen[0].text, QString("Are you sure you want to delete \"Atlas\"?"));
+        QCOMPARE(seen[1].text, QString("File deleted successfully."));
+        QCOMPARE(listed(), QStringList({"Mirror Match", "Rio"}));
+        QCOMPARE(QDir(saves).entryList(QDir::Files), QStringList({"Mirror Match.dat", "Rio.dat"}));
+    }
+
+    // saved in a game, left for the main menu, loaded from there: the world that was saved
+    void aSavedGameLoadsAgain()
+    {
+        GameManager::instance().setManager({"Anselm", "Reyes", "Oceania", "Fiji", "Unknown"}, QList<int>(23, 4), {});
+        GameManager::instance().advanceDate();
+        openSaveScreen(true);
+        saveAs("Harbour", {"Accept", "Accept"});
+        const QByteArray saved = worldBytes();
+        {
+            DialogScript leave({"Accept"});
+            QTest::mouseClick(ModuleManager::instance().topMenu()->button(TopMenuBar::MainMenu), Qt::LeftButton);
+        }
+        QVERIFY(worldBytes() != saved);
+
+        QTest::mouseClick(screenButton("Load Game"), Qt::LeftButton);
+        pick("Harbour");
+        const auto seen = press("Load", {"Accept", "Accept"});
+        QCOMPARE(seen.size(), 2);
+        QCOMPARE(seen[0].text, QString("Load \"Harbour\"?"));
+        QCOMPARE(seen[0].buttons, both);
+        QCOMPARE(seen[1].text, QString("File loaded successfully."));
+        QCOMPARE(worldBytes(), saved);
+        QVERIFY(ModuleManager::instance().isTopMenuVisible());
+        QVERIFY(!onSaveScreen());
+    }
+
+    // a file that is no whole saved game is refused, and the game that runs goes on as it was
+    void aDamagedSaveIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray whole = worldBytes();
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut short") << whole.left(whole.size() / 2);
+        QTest::newRow("foreign") << QByteArray("a shopping list, not a saved game\n").repeated(40);
+        // the manager's strings claim more entries than any file holds
+        QTest::newRow("impossible count") << QByteArray(whole).replace(8, 4, "\x7f\xff\xff\xff");
+    }
+
+    void aDamagedSaveIsRefused()
+    {
+        QFETCH(QByteArray, bytes);
+        QDir().mkpath(saves);
+        QFile file(saves + "Damaged.dat");
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        file.close();
+        GameManager::instance().advanceDate();
+        const QByteArray running = worldBytes();
+        openSaveScreen(true);
+        const auto seen = press("Load", {"Accept", "Accept"});
+        QCOMPARE(seen.size(), 2);
+        QVERIFY2(seen[1].text.startsWith("The file ./Resources/Saves/Damaged.dat could not be read."),
+                 qPrintable(seen[1].text));
+        QVERIFY2(seen[1].text.count('\n') == 1 && !seen[1].text.endsWith('\n'), qPrintable(seen[1].text));
+        QCOMPARE(seen[1].buttons, cancelAlone);
+        QCOMPARE(worldBytes(), running);
+        QVERIFY(onSaveScreen() && ModuleManager::instance().isTopMenuVisible());
+    }
+
+    // a name that leads out of the saves folder is refused with a message and writes nothing
+    void namesOutsideTheFolderAreRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("up and out") << "../../../Escaped";
+        QTest::newRow("into a folder") << "Nested/Game";
+        QTest::newRow("the folder above") << "..";
+        QTest::newRow("the folder itself") << ".";
+        QTest::newRow("from the root") << "/tmp/orvane_escaped";
+    }
+
+    void namesOutsideTheFolderAreRefused()
+    {
+        QFETCH(QString, name);
+        openSaveScreen(true);
+        const QStringList before = allFiles();
+        const auto seen = saveAs(name, {"Accept", "Accept"});
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].buttons, cancelAlone);
+        QVERIFY2(!seen[0].text.isEmpty(), qPrintable(name));
+        QCOMPARE(allFiles(), before);
+        QVERIFY(!QFile::exists("/tmp/orvane_escaped.dat"));
+    }
+
+private:
+    QTemporaryDir root;
+};
+
+QTEST_MAIN(tst_SaveLoad)
+#include "tst_saveload.moc"

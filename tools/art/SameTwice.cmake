@@ -1,0 +1,31 @@
+# Draws the Resources tree twice into fresh folders and fails unless both hold the same files,
+# byte for byte: the pictures must come out the same on every build.
+#   cmake -DTOOL=... -DDATA=... -DFLAGS=... -DWORK=... -P SameTwice.cmake
+file(REMOVE_RECURSE ${WORK})
+foreach(run first second)
+  execute_process(
+    COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ${TOOL} --data ${DATA} --flags ${FLAGS} --out ${WORK}/${run}
+    RESULT_VARIABLE result OUTPUT_QUIET)
+  if(NOT result EQUAL 0)
+    message(FATAL_ERROR "the art tool failed on its ${run} run")
+  endif()
+endforeach()
+file(GLOB_RECURSE first_files RELATIVE ${WORK}/first ${WORK}/first/*)
+file(GLOB_RECURSE second_files RELATIVE ${WORK}/second ${WORK}/second/*)
+list(LENGTH first_files count)
+if(NOT first_files STREQUAL second_files OR count LESS 400)
+  message(FATAL_ERROR "the two runs drew different sets of pictures (${count} in the first)")
+endif()
+set(differing)
+foreach(name ${first_files})
+  file(SHA256 ${WORK}/first/${name} a)
+  file(SHA256 ${WORK}/second/${name} b)
+  if(NOT a STREQUAL b)
+    list(APPEND differing ${name})
+  endif()
+endforeach()
+file(REMOVE_RECURSE ${WORK})
+if(differing)
+  message(FATAL_ERROR "pictures that differ between two runs: ${differing}")
+endif()
+message(STATUS "${count} pictures, the same on both runs")

@@ -1,0 +1,22 @@
+# Runs the defaults tool twice into two folders and compares every file: the same sources must
+# give the same bytes.
+file(REMOVE_RECURSE ${WORK})
+foreach(run one two)
+  execute_process(COMMAND ${TOOL} --data ${DATA} --out ${WORK}/${run} RESULT_VARIABLE result)
+  if(NOT result EQUAL 0)
+    message(FATAL_ERROR "the defaults tool failed")
+  endif()
+endforeach()
+file(GLOB files RELATIVE ${WORK}/one ${WORK}/one/*)
+list(LENGTH files count)
+if(count EQUAL 0)
+  message(FATAL_ERROR "the defaults tool wrote nothing")
+endif()
+foreach(file ${files})
+  execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK}/one/${file} ${WORK}/two/${file}
+                  RESULT_VARIABLE different)
+  if(different)
+    message(FATAL_ERROR "${file} differs between two runs")
+  endif()
+endforeach()
+message(STATUS "${count} files, the same bytes twice")
