@@ -228,7 +228,7 @@ private slots:
         sentinel.nextId = 4242;
         WorkingFolder folder;
         int refused = 0;
-        for (int i = 0; i < 4000; ++i) {
+        for (int i = 0; i < 3000; ++i) {
             QVERIFY(sentinel.load());
             const QByteArray before = worldBytes();
             QByteArray damaged = save;
