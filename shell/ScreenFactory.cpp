@@ -1,8 +1,10 @@
 #include "shell/ScreenFactory.h"
 
+#include "screens/Module_NextDay.h"
 #include "screens/Module_Placeholder.h"
 #include "screens/Module_SaveLoad.h"
 #include "shell/TopMenuBar.h"
+#include "world/Entity_Event.h"
 
 #include <array>
 
@@ -26,5 +28,11 @@ QWidget *ScreenFactory::build(int buttonId)
 
 QWidget *ScreenFactory::buildNextDay()
 {
-    return new Module_Placeholder(screenNames[TopMenuBar::NextDay]);
+    return new Module_NextDay;
+}
+
+QWidget *ScreenFactory::buildFightNight(const Entity_Event &event)
+{
+    // the fight night screen is still being built; its place names the night
+    return new Module_Placeholder("Fight Night: " + event.name());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+class Entity_Event;
 class QWidget;
 
 // Builds the screen behind each button of the top menu, anew each time it is shown.
@@ -8,6 +9,8 @@ class ScreenFactory
 public:
     // the screen of a plain button (TopMenuBar::ButtonID); anything else builds the profile
     static QWidget *build(int buttonId);
-    // the day flow, or the fight night of an unplayed event of the user today
+    // the rest of the day, once the user's own events of today are fought
     static QWidget *buildNextDay();
+    // the fight night of one of the user's events of today
+    static QWidget *buildFightNight(const Entity_Event &event);
 };

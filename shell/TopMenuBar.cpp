@@ -94,8 +94,13 @@ void TopMenuBar::changeScreenHelp() { changeScreen(Help); }
 
 void TopMenuBar::changeScreenNextDay()
 {
+    // the current screen stays as it was, so that the end of the day returns to it
     ModuleManager::instance().hideTopMenu();
-    ModuleManager::instance().changeModule(ScreenFactory::buildNextDay());
+    // a day never passes while one of the user's events of today stands unplayed: each fight
+    // night comes back here when it is over, until none is left and the rest of the day runs
+    const QList<Entity_Event> userEvents = GameManager::instance().todaysUserEvents();
+    ModuleManager::instance().changeModule(userEvents.isEmpty() ? ScreenFactory::buildNextDay()
+                                                                : ScreenFactory::buildFightNight(userEvents.first()));
 }
 
 void TopMenuBar::changeScreenMainMenu()

@@ -3,12 +3,14 @@
 #include <QDataStream>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSize>
 #include <QtTest>
 
-// Every picture the game opens must be in the Resources tree beside it, readable and of the size
-// its screen is laid out for. The checks read the files' own headers, so they need no picture
-// library; the game runs in the folder the tests run in.
+// Every picture the game opens must be in the Resources tree beside it, readable to the last pixel
+// and of the size its screen is laid out for; the layers painted over others must be see-through.
+// The checks read the files themselves, so they need no picture library; the game runs in the
+// folder the tests run in.
 namespace {
 
 const QStringList kitColours{"Black",        "Blue",   "Dark Blue", "Dark Green", "Dark Red", "Gold",  "Green",
@@ -42,7 +44,7 @@ const QStringList menuButtons{
 
 const QSize portrait(220, 352);
 
-quint32 bigEndian(const QByteArray &bytes, int at, int width)
+quint32 bigEndian(const QByteArray &bytes, qsizetype at, int width)
 {
     quint32 value = 0;
     for (int i = 0; i < width; ++i)
@@ -50,33 +52,167 @@ quint32 bigEndian(const QByteArray &bytes, int at, int width)
     return value;
 }
 
-// the size a PNG or JPEG file declares, or an invalid size when it is neither
-QSize declaredSize(const QString &path)
+quint32 crc32(const QByteArray &bytes, qsizetype from, qsizetype length)
+{
+    quint32 crc = 0xffffffffu;
+    for (qsizetype i = from; i < from + length; ++i) {
+        crc ^= quint8(bytes[i]);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ (0xedb88320u & (0u - (crc & 1u)));
+    }
+    return ~crc;
+}
+
+// What a picture file holds, read without a picture library: its size, whether it carries
+// transparency, and for a PNG how many pixels are fully clear and how many are painted.
+struct Picture {
+    QSize size;
+    bool valid = false;
+    bool alpha = false;
+    qsizetype clear = 0;
+    qsizetype painted = 0;
+    QString fault;
+};
+
+int paeth(int a, int b, int c)
+{
+    const int p = a + b - c;
+    const int pa = qAbs(p - a), pb = qAbs(p - b), pc = qAbs(p - c);
+    return pa <= pb && pa <= pc ? a : (pb <= pc ? b : c);
+}
+
+// the value a row filter predicts from the bytes left (a), above (b) and above left (c)
+int predict(int filter, int a, int b, int c)
+{
+    switch (filter) {
+    case 1:
+        return a;
+    case 2:
+        return b;
+    case 3:
+        return (a + b) / 2;
+    case 4:
+        return paeth(a, b, c);
+    default:
+        return 0;
+    }
+}
+
+// a PNG of 8-bit RGB or RGBA, not interlaced (what the art tool writes), decoded to the last pixel:
+// every chunk's checksum, the image data inflated to its exact length, every row's filter undone
+Picture readPng(const QByteArray &bytes)
+{
+    Picture picture;
+    if (bytes.size() < 33 || bytes.mid(12, 4) != "IHDR") {
+        picture.fault = "no PNG header";
+        return picture;
+    }
+    const int width = int(bigEndian(bytes, 16, 4)), height = int(bigEndian(bytes, 20, 4));
+    const int depth = quint8(bytes[24]), colourType = quint8(bytes[25]), interlace = quint8(bytes[28]);
+    picture.size = QSize(width, height);
+    if (depth != 8 || (colourType != 2 && colourType != 6) || interlace != 0) {
+        picture.fault = QString("an unexpected PNG form (depth %1, colour type %2)").arg(depth).arg(colourType);
+        return picture;
+    }
+    const int channels = colourType == 6 ? 4 : 3;
+    picture.alpha = colourType == 6;
+    QByteArray data;
+    bool ended = false;
+    for (qsizetype at = 8; at + 12 <= bytes.size() && !ended;) {
+        const qsizetype length = bigEndian(bytes, at, 4);
+        if (at + 12 + length > bytes.size()) {
+            picture.fault = "a chunk runs past the end of the file";
+            return picture;
+        }
+        if (bigEndian(bytes, at + 8 + length, 4) != crc32(bytes, at + 4, length + 4)) {
+            picture.fault = "a chunk with a wrong checksum: " + QString::fromLatin1(bytes.mid(at + 4, 4));
+            return picture;
+        }
+        const QByteArray type = bytes.mid(at + 4, 4);
+        if (type == "IDAT")
+            data += bytes.mid(at + 8, length);
+        ended = type == "IEND";
+        at += 12 + length;
+    }
+    const qsizetype stride = qsizetype(width) * channels;
+    const qsizetype expected = (stride + 1) * height;
+    QByteArray sized(4, '\0');
+    for (int i = 0; i < 4; ++i)
+        sized[i] = char((expected >> (24 - 8 * i)) & 0xff);
+    const QByteArray raw = qUncompress(sized + data);
+    if (!ended || raw.size() != expected) {
+        picture.fault = ended ? "image data of the wrong length" : "no end chunk";
+        return picture;
+    }
+    QByteArray previous(stride, '\0');
+    for (int y = 0; y < height; ++y) {
+        const int filter = quint8(raw[y * (stride + 1)]);
+        QByteArray row = raw.mid(y * (stride + 1) + 1, stride);
+        if (filter > 4) {
+            picture.fault = "an unknown row filter";
+            return picture;
+        }
+        for (qsizetype x = 0; x < stride; ++x) {
+            const int a = x >= channels ? quint8(row[x - channels]) : 0;
+            const int b = quint8(previous[x]);
+            const int c = x >= channels ? quint8(previous[x - channels]) : 0;
+            row[x] = char((quint8(row[x]) + predict(filter, a, b, c)) & 0xff);
+        }
+        if (picture.alpha)
+            for (qsizetype x = 3; x < stride; x += 4)
+                ++(quint8(row[x]) == 0 ? picture.clear : picture.painted);
+        previous = row;
+    }
+    picture.valid = true;
+    return picture;
+}
+
+// a baseline or progressive JPEG: markers from the start to a frame header, then to the end of image
+Picture readJpeg(const QByteArray &bytes)
+{
+    Picture picture;
+    qsizetype at = 2;
+    while (at + 4 <= bytes.size() && quint8(bytes[at]) == 0xff) {
+        const quint8 marker = quint8(bytes[at + 1]);
+        if (marker >= 0xc0 && marker <= 0xc2 && at + 9 <= bytes.size())
+            picture.size = QSize(int(bigEndian(bytes, at + 7, 2)), int(bigEndian(bytes, at + 5, 2)));
+        if (marker == 0xda)
+            break;
+        at += 2 + bigEndian(bytes, at + 2, 2);
+    }
+    picture.valid = picture.size.isValid() && bytes.endsWith("\xff\xd9");
+    if (!picture.valid)
+        picture.fault = picture.size.isValid() ? "no end of image" : "no frame header";
+    return picture;
+}
+
+Picture readPicture(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QByteArray bytes = file.readAll();
-    if (bytes.startsWith("\x89PNG\r\n\x1a\n") && bytes.size() > 24 && bytes.mid(12, 4) == "IHDR")
-        return QSize(int(bigEndian(bytes, 16, 4)), int(bigEndian(bytes, 20, 4)));
-    if (bytes.startsWith("\xff\xd8")) {
-        // walk the JPEG markers to the frame header
-        int at = 2;
-        while (at + 9 < bytes.size() && quint8(bytes[at]) == 0xff) {
-            const quint8 marker = quint8(bytes[at + 1]);
-            if (marker >= 0xc0 && marker <= 0xc3)
-                return QSize(int(bigEndian(bytes, at + 7, 2)), int(bigEndian(bytes, at + 5, 2)));
-            at += 2 + int(bigEndian(bytes, at + 2, 2));
-        }
+    if (!file.open(QIODevice::ReadOnly)) {
+        Picture missing;
+        missing.fault = "missing";
+        return missing;
     }
-    return {};
+    const QByteArray bytes = file.readAll();
+    if (bytes.startsWith("\x89PNG\r\n\x1a\n"))
+        return readPng(bytes);
+    if (bytes.startsWith("\xff\xd8"))
+        return readJpeg(bytes);
+    Picture unknown;
+    unknown.fault = "neither PNG nor JPEG";
+    return unknown;
 }
 
-void addPicture(const QString &row, const QString &path, QSize size)
+// how a picture is shown: on its own, or laid over others so that they must show through it
+enum Use { Alone, Overlay };
+
+void addPicture(const QString &row, const QString &path, QSize size, Use use = Alone)
 {
-    QTest::newRow(qPrintable(row)) << path << size;
+    QTest::newRow(qPrintable(row)) << path << size << (use == Overlay);
 }
 
+// the nations of the default world's eight region lists; empty until the default world is made
 QStringList nationsOfTheLists()
 {
     QFile file("./Resources/Defaults/default_nations.dat");
@@ -117,32 +253,39 @@ private slots:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QSize>("size");
+        QTest::addColumn<bool>("overlay");
+        // the portrait: six layers over the backdrop, each showing the ones below round the man
         addPicture("portrait backdrop", "Body/portraitbg.jpg", portrait);
         for (int body = 1; body <= 21; ++body)
-            addPicture(QString("body %1").arg(body), QString("Body/body_%1.png").arg(body), portrait);
-        addPicture("shaved head", "Heads/head_1.png", portrait);
-        addPicture("head band", "Heads/head_8.png", portrait);
-        addPicture("plain face", "Heads/face_1.png", portrait);
+            addPicture(QString("body %1").arg(body), QString("Body/body_%1.png").arg(body), portrait, Overlay);
+        addPicture("shaved head", "Heads/head_1.png", portrait, Overlay);
+        addPicture("head band", "Heads/head_8.png", portrait, Overlay);
+        addPicture("plain face", "Heads/face_1.png", portrait, Overlay);
         for (const QString &hair : hairColours) {
             for (int head = 1; head <= 7; ++head)
                 addPicture(QString("head %1 %2").arg(head).arg(hair),
-                           QString("Heads/head_%1_%2.png").arg(head).arg(hair), portrait);
+                           QString("Heads/head_%1_%2.png").arg(head).arg(hair), portrait, Overlay);
             for (int face = 1; face <= 4; ++face)
                 addPicture(QString("face %1 %2").arg(face).arg(hair),
-                           QString("Heads/face_%1_%2.png").arg(face).arg(hair), portrait);
+                           QString("Heads/face_%1_%2.png").arg(face).arg(hair), portrait, Overlay);
         }
+        // the kit on the portrait, and the gym's emblem: its trim painted over its shorts
         for (const QString &colour : kitColours) {
-            addPicture("portrait shorts " + colour, "Shorts/port_shorts_" + colour + ".png", portrait);
-            addPicture("portrait trim " + colour, "Trim/port_trim_" + colour + ".png", portrait);
+            addPicture("portrait shorts " + colour, "Shorts/port_shorts_" + colour + ".png", portrait, Overlay);
+            addPicture("portrait trim " + colour, "Trim/port_trim_" + colour + ".png", portrait, Overlay);
             addPicture("gym emblem " + colour, "Shorts/gym_shorts_" + colour + ".jpg", QSize(250, 250));
-            addPicture("gym emblem trim " + colour, "Trim/gym_trim_" + colour + ".png", QSize(250, 250));
+            addPicture("gym emblem trim " + colour, "Trim/gym_trim_" + colour + ".png", QSize(250, 250), Overlay);
         }
+        // the corner paints all four parts over the backdrop, each in the colour of its condition
         for (const char *part : {"head", "body", "arms", "legs"})
             for (int code = 0; code <= 4; ++code)
                 addPicture(QString("%1 in the corner at %2").arg(part).arg(code),
-                           QString("Body/%1_status_%2.png").arg(part).arg(code), portrait);
+                           QString("Body/%1_status_%2.png").arg(part).arg(code), portrait, Overlay);
+        // a flag for every nation a man can come from, and the blank one of an empty choice
         addPicture("blank flag", "Flags/flag_blank.png", QSize(160, 100));
-        for (const QString &nation : mainNations)
+        QStringList nations = mainNations + nationsOfTheLists();
+        nations.removeDuplicates();
+        for (const QString &nation : nations)
             addPicture("flag of " + nation, "Flags/flag_" + nation + ".png", QSize(160, 100));
         for (const QString &name : organisations)
             addPicture("logo of " + name, "Org Logos/" + name + "_Logo.jpg", QSize(250, 250));
@@ -150,9 +293,10 @@ private slots:
             addPicture("training " + icon, "Training Icons/" + icon, QSize(64, 64));
         for (const QString &icon : helpIcons)
             addPicture("help " + icon, "TopMenu/" + icon, QSize(70, 70));
+        // the database's map, with each filter's overlay painted over it at the same size
         addPicture("world map", "World Map/world_map.jpg", QSize(420, 225));
         for (const QString &filter : mapFilters)
-            addPicture("map lit for " + filter, "World Map/world_map_" + filter + ".png", QSize(420, 225));
+            addPicture("map lit for " + filter, "World Map/world_map_" + filter + ".png", QSize(420, 225), Overlay);
         addPicture("leather of the screens", "Backgrounds/MainBackground.jpg", QSize(1100, 700));
         addPicture("title picture", "Backgrounds/MainMenuTitlePic.jpg", QSize(760, 400));
     }
@@ -160,20 +304,36 @@ private slots:
     {
         QFETCH(QString, path);
         QFETCH(QSize, size);
-        QCOMPARE(declaredSize("./Resources/" + path), size);
+        QFETCH(bool, overlay);
+        const Picture picture = readPicture("./Resources/" + path);
+        QVERIFY2(picture.valid, qPrintable(path + ": " + picture.fault));
+        QCOMPARE(picture.size, size);
+        if (overlay) {
+            // an overlay must let what lies under it show through, and must itself show something
+            QVERIFY2(picture.alpha, "an overlay without transparency");
+            QVERIFY2(picture.clear > 0, "an overlay that hides everything under it");
+            QVERIFY2(picture.painted > 0, "an overlay that shows nothing");
+        }
     }
 
-    // the nation lists of the default world give the flags the new game screen shows
-    void everyNationOfTheListsHasAFlag()
+    // the worse a part of the man, the more its picture in the corner must change: no two
+    // conditions of a part may be drawn alike
+    void everyConditionLooksDifferent_data()
     {
-        const QStringList nations = nationsOfTheLists();
-        if (nations.isEmpty())
-            QSKIP("no nation lists in Resources/Defaults yet");
-        QStringList missing;
-        for (const QString &nation : nations)
-            if (!declaredSize("./Resources/Flags/flag_" + nation + ".png").isValid())
-                missing.append(nation);
-        QVERIFY2(missing.isEmpty(), qPrintable("no flag for " + missing.join(", ")));
+        QTest::addColumn<QString>("part");
+        for (const char *part : {"head", "body", "arms", "legs"})
+            QTest::newRow(part) << QString(part);
+    }
+    void everyConditionLooksDifferent()
+    {
+        QFETCH(QString, part);
+        QSet<QByteArray> looks;
+        for (int code = 0; code <= 4; ++code) {
+            QFile file(QString("./Resources/Body/%1_status_%2.png").arg(part).arg(code));
+            QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName() + " is missing"));
+            looks.insert(file.readAll());
+        }
+        QCOMPARE(looks.size(), 5);
     }
 
     void styleSheetPicturesExist_data()
@@ -191,7 +351,8 @@ private slots:
         int count = 0;
         for (const QRegularExpressionMatch &match : url.globalMatch(text)) {
             ++count;
-            QVERIFY2(declaredSize(match.captured(1)).isValid(), qPrintable(match.captured(1) + " is no picture"));
+            const Picture picture = readPicture(match.captured(1));
+            QVERIFY2(picture.valid, qPrintable(match.captured(1) + ": " + picture.fault));
         }
         QVERIFY(count > 0);
     }
@@ -213,7 +374,9 @@ private slots:
             const QRegularExpression rule("QPushButton#" + objectName + QString(state) + R"(\s*\{[^}]*url\(([^)]*)\))");
             const QRegularExpressionMatch match = rule.match(text);
             QVERIFY2(match.hasMatch(), qPrintable("no rule for " + objectName + QString(state)));
-            QCOMPARE(declaredSize(match.captured(1)), QSize(70, 70));
+            const Picture picture = readPicture(match.captured(1));
+            QVERIFY2(picture.valid, qPrintable(match.captured(1) + ": " + picture.fault));
+            QCOMPARE(picture.size, QSize(70, 70));
             pictures.append(match.captured(1));
         }
         pictures.removeDuplicates();

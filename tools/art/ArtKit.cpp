@@ -1,5 +1,6 @@
 #include "ArtKit.h"
 
+#include <QFont>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QRadialGradient>
@@ -7,6 +8,15 @@
 #include <algorithm>
 
 namespace ArtKit {
+
+QFont titleFont(int pixelSize)
+{
+    QFont font;
+    font.setFamilies({"P052", "C059", "DejaVu Serif"});
+    font.setPixelSize(pixelSize);
+    font.setBold(true);
+    return font;
+}
 
 QImage canvas(int width, int height)
 {

@@ -4,10 +4,14 @@
 #include <QImage>
 #include <QPainterPath>
 
+class QFont;
 class QPainter;
 
 // Small drawing helpers shared by all the painters of the art tool.
 namespace ArtKit {
+
+// the bold serif of the titles (URW P052 where the machine has it)
+QFont titleFont(int pixelSize);
 
 // a transparent picture of the given size, ready for painting
 QImage canvas(int width, int height);

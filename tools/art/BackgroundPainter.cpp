@@ -20,15 +20,6 @@ void stitches(QPainter &p, QLineF line, const QColor &colour)
     p.drawLine(line);
 }
 
-QFont titleFont(int pixelSize)
-{
-    QFont font;
-    font.setFamilies({"P052", "C059", "DejaVu Serif"});
-    font.setPixelSize(pixelSize);
-    font.setBold(true);
-    return font;
-}
-
 } // namespace
 
 QImage BackgroundPainter::mainBackground() const

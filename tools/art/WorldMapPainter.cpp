@@ -4,6 +4,7 @@
 #include "ArtOutput.h"
 #include "TsvTable.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QtMath>
 #include <cmath>
@@ -88,12 +89,43 @@ bool WorldMapPainter::read(const QString &dataDir, QString &error)
         error = table.error();
         return false;
     }
+    QMap<QString, QString> countryOfNation;
     for (const QStringList &row : table.rows()) {
         if (!regions().contains(row[0]) || !countries.contains(row[1])) {
             error = "map_regions.tsv: unknown region or country in " + row.join(" / ");
             return false;
         }
         regionOf.insert(row[1], row[0]);
+        countryOfNation.insert(row[1], row[1]);
+        if (row.size() > 2)
+            for (const QString &nation : row[2].split(',', Qt::SkipEmptyParts))
+                countryOfNation.insert(nation.trimmed(), row[1]);
+    }
+    return agreesWithNations(dataDir + "/nations.tsv", countryOfNation, error);
+}
+
+// The game's nation table says where each nation fights; a map that lit a country under another
+// region would show a man's homeland in the wrong filter, so the two must agree. Nations too small
+// for the map's shapes have no country and are left out.
+bool WorldMapPainter::agreesWithNations(const QString &path, const QMap<QString, QString> &countryOfNation,
+                                        QString &error) const
+{
+    if (!QFile::exists(path))
+        return true;
+    TsvTable nations;
+    if (!nations.read(path, 2)) {
+        error = nations.error();
+        return false;
+    }
+    QStringList disagreements;
+    for (const QStringList &row : nations.rows()) {
+        const QString country = countryOfNation.value(row[1]);
+        if (!country.isEmpty() && regionOf.value(country) != row[0])
+            disagreements.append(QString("%1 (%2, the map has %3)").arg(row[1], row[0], regionOf.value(country)));
+    }
+    if (!disagreements.isEmpty()) {
+        error = "map_regions.tsv puts nations in another region than nations.tsv: " + disagreements.join(", ");
+        return false;
     }
     return true;
 }

@@ -23,6 +23,8 @@ public:
     static const QStringList &regions();
 
 private:
+    bool agreesWithNations(const QString &path, const QMap<QString, QString> &countryOfNation, QString &error) const;
+
     QMap<QString, QPainterPath> countries;
     QMap<QString, QString> regionOf;
 };

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # One picture of the drawn Resources at a glance: portraits in chance combinations, logos, icons,
 # flags and the world map with its overlays.
-#   tools/art/contact_sheet.sh [BUILD_DIR] [OUT.png] [SEED]
+#   scripts/contact_sheet.sh [BUILD_DIR] [OUT.png] [SEED]
 # BUILD_DIR defaults to build/; the Resources tree is drawn there first if it is out of date.
 set -euo pipefail
-root=$(cd "$(dirname "$0")/../.." && pwd)
+root=$(cd "$(dirname "$0")/.." && pwd)
 build=$(realpath -m "${1:-$root/build}")
 out=$(realpath -m "${2:-$build/contact_sheet.png}")
 seed=${3:-1}

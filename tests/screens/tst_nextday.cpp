@@ -1,0 +1,133 @@
+#include "screens/ScreenTestKit.h"
+#include "world/WorldSamples.h"
+
+#include "screens/Module_NextDay.h"
+#include "screens/Module_SaveLoad.h"
+#include "shell/TopMenuBar.h"
+
+#include <QProgressBar>
+#include <QTemporaryDir>
+#include <QTextEdit>
+#include <QtTest>
+
+using namespace ScreenTestKit;
+
+namespace {
+
+const QString Org = "Test FC";
+const QDate Today(2011, 3, 1);
+
+// a world whose only night is today's, the user's or the world's
+bool loadWorld(bool userNightToday, int userNights = 1)
+{
+    WorldSamples::World w;
+    w.date = Today;
+    QList<Entity_Event> calendar;
+    for (int i = 0; i < userNights; ++i)
+        calendar << WorldSamples::bookedEvent(WorldSamples::makeEvent("Night " + QString::number(i), Org, Today, {}),
+                                              userNightToday);
+    w.organisations.append(WorldSamples::organisation(Org, calendar, {}));
+    return w.load();
+}
+
+TopMenuBar *menu()
+{
+    return ModuleManager::instance().topMenu();
+}
+
+Module_NextDay *dayScreen()
+{
+    return qobject_cast<Module_NextDay *>(ModuleManager::instance().currentModule());
+}
+
+} // namespace
+
+class tst_NextDay : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(root.isValid());
+        QDir::setCurrent(root.path());
+        ModuleManager::instance().initialize();
+        Random::useTestClock(3);
+    }
+
+    void cleanup()
+    {
+        GameManager::instance().resetWorld();
+        ModuleManager::instance().hideTopMenu();
+    }
+
+    // The button leads to the day, whose news stands once it is worked out; proceeding returns
+    // to the screen last chosen on the top menu, with no button marked.
+    void nextDayShowsTheNewsAndReturns()
+    {
+        QVERIFY(loadWorld(false));
+        ModuleManager::instance().showTopMenu();
+        QTest::mouseClick(menu()->button(TopMenuBar::SaveLoad), Qt::LeftButton);
+        QTest::mouseClick(menu()->button(TopMenuBar::NextDay), Qt::LeftButton);
+
+        QVERIFY(dayScreen());
+        QVERIFY(!ModuleManager::instance().isTopMenuVisible());
+        auto *bar = dayScreen()->findChild<QProgressBar *>();
+        QCOMPARE(bar->maximum(), 6);
+        QVERIFY(!bar->isTextVisible());
+        // the screen stands before the day runs
+        QVERIFY(!screenButton("Proceed to next day"));
+        QCOMPARE(GameManager::instance().getCurrentDate(), Today);
+
+        QTRY_VERIFY(screenButton("Proceed to next day"));
+        QVERIFY(bar->isHidden());
+        const QString news = dayScreen()->newsText()->toPlainText();
+        QVERIFY2(news.startsWith("News for " + Today.toString(Qt::TextDate) + "\nGym Info: "), qPrintable(news));
+        QVERIFY(news.contains("Night 0 event results: "));
+        QVERIFY(news.contains("Event booking news: "));
+        QCOMPARE(GameManager::instance().getCurrentDate(), Today.addDays(1));
+
+        QTest::mouseClick(screenButton("Proceed to next day"), Qt::LeftButton);
+        QVERIFY(qobject_cast<Module_SaveLoad *>(ModuleManager::instance().currentModule()));
+        QVERIFY(ModuleManager::instance().isTopMenuVisible());
+        for (int id = 0; id < TopMenuBar::ButtonCount; ++id)
+            QVERIFY(!menu()->button(TopMenuBar::ButtonID(id))->isFlat());
+    }
+
+    // The user's unplayed nights of today come first, one after the other; the day waits for
+    // them, and with none left (or no fighters at all) the button goes straight to the day.
+    void userNightsComeFirst_data()
+    {
+        QTest::addColumn<bool>("userNight");
+        QTest::addColumn<int>("nights");
+        QTest::addColumn<int>("fightNightsBeforeTheDay");
+        QTest::newRow("no fighters: straight to the day") << false << 1 << 0;
+        QTest::newRow("one night of the user") << true << 1 << 1;
+        QTest::newRow("two nights of the user") << true << 2 << 2;
+    }
+    void userNightsComeFirst()
+    {
+        QFETCH(bool, userNight);
+        QFETCH(int, nights);
+        QFETCH(int, fightNightsBeforeTheDay);
+        QVERIFY(loadWorld(userNight, nights));
+        ModuleManager::instance().showTopMenu();
+        for (int night = 0; night < fightNightsBeforeTheDay; ++night) {
+            ModuleManager::instance().startNextDay();
+            QVERIFY(!dayScreen());
+            QVERIFY(!ModuleManager::instance().isTopMenuVisible());
+            // the fight night ends by storing its results, as its summary does
+            GameManager::instance().storeEventResults({"fought"}, "Night " + QString::number(night), Org);
+        }
+        ModuleManager::instance().startNextDay();
+        QVERIFY(dayScreen());
+        QTRY_VERIFY(screenButton("Proceed to next day"));
+        QCOMPARE(GameManager::instance().getCurrentDate(), Today.addDays(1));
+    }
+
+private:
+    QTemporaryDir root;
+};
+
+QTEST_MAIN(tst_NextDay)
+#include "tst_nextday.moc"

@@ -1,0 +1,30 @@
+# Runs orvane-sim for a CTest test.
+#   MODE=output: its standard output must equal the file EXPECTED.
+#   MODE=repeat: two runs with the same arguments must write byte-identical saves (into WORK).
+if(MODE STREQUAL "output")
+  execute_process(COMMAND ${SIM} ${ARGS} OUTPUT_VARIABLE out RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "orvane-sim ended with ${rc}:\n${out}")
+  endif()
+  file(READ ${EXPECTED} expected)
+  if(NOT out STREQUAL expected)
+    get_filename_component(name ${EXPECTED} NAME)
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.actual "${out}")
+    message(FATAL_ERROR "the run differs from ${EXPECTED}; its output is in "
+                        "${CMAKE_CURRENT_BINARY_DIR}/${name}.actual")
+  endif()
+elseif(MODE STREQUAL "repeat")
+  foreach(run first second)
+    execute_process(COMMAND ${SIM} ${ARGS} --save ${WORK}/repeat_${run}.dat OUTPUT_VARIABLE out RESULT_VARIABLE rc)
+    if(NOT rc EQUAL 0)
+      message(FATAL_ERROR "orvane-sim (${run} run) ended with ${rc}:\n${out}")
+    endif()
+  endforeach()
+  execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK}/repeat_first.dat ${WORK}/repeat_second.dat
+                  RESULT_VARIABLE differ)
+  if(NOT differ EQUAL 0)
+    message(FATAL_ERROR "two runs with the same seed wrote different saves")
+  endif()
+else()
+  message(FATAL_ERROR "unknown MODE '${MODE}'")
+endif()

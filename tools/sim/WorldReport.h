@@ -1,0 +1,44 @@
+#pragma once
+
+#include "world/DayFlow.h"
+
+#include <QDate>
+#include <QList>
+#include <QStringList>
+
+class GameManager;
+
+// The figures of one game year of a run: what was fought, how it ended, the titles, the sizes of
+// the rosters and pools, and how long the days took.
+class WorldReport
+{
+public:
+    // `withTimes`: the lines with the day timings, which differ from run to run, are left out
+    explicit WorldReport(bool withTimes);
+
+    // the day that ended on `day`, its tally, its time, and the world after it
+    void addDay(const QDate &day, const DayFlow::Tally &tally, qint64 microseconds, const GameManager &world);
+    bool hasDays() const { return !days.isEmpty(); }
+    int year() const { return currentYear; }
+    // the year's lines; the report starts on a new year
+    QStringList finishYear(const GameManager &world);
+
+    // the free agents and the amateurs that the world holds now
+    static void countPools(const GameManager &world, int &freeAgents, int &amateurs);
+    // the peak memory of the process in kilobytes, 0 where the system doesn't tell
+    static qint64 peakMemoryKb();
+
+private:
+    struct Day {
+        QDate date;
+        int matches = 0;
+        qint64 microseconds = 0;
+    };
+
+    bool withTimes;
+    int currentYear = 0;
+    QList<Day> days;
+    DayFlow::Tally yearTally;
+    int smallestRoster = 0;
+    int largestRoster = 0;
+};

@@ -1,0 +1,153 @@
+// orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] [--no-times]
+//
+// Starts a new game with a plain manager and gym on the default world, or loads a saved game,
+// and runs N days of the game's own day flow without a screen. It prints the figures of each game
+// year and writes the world to FILE at the end. With --seed the test clock makes every run with
+// the same arguments the same (the lines with timings aside; --no-times leaves them out). With
+// --check the world invariants are checked after every day, and the first fault stops the run.
+// With --news the news of every day is printed as the Next Day screen shows it. It must run
+// where the game runs, beside the Resources tree.
+
+#include "WorldReport.h"
+
+#include "fighters/Entity_Gym.h"
+#include "fighters/Entity_Manager.h"
+#include "fighters/Random.h"
+#include "persistence/SaveFile.h"
+#include "world/DayFlow.h"
+#include "world/GameManager.h"
+#include "world/WorldInvariants.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTextStream>
+
+namespace {
+
+struct Options {
+    int days = 0;
+    bool seeded = false;
+    quint32 seed = 0;
+    QString load;
+    QString save;
+    bool check = false;
+    bool news = false;
+    bool times = true;
+};
+
+const char *usage = "usage: orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] "
+                    "[--no-times]\n";
+
+bool parse(const QStringList &args, Options &options)
+{
+    if (args.value(1) != QLatin1String("world"))
+        return false;
+    bool daysGiven = false;
+    for (int i = 2; i < args.size(); ++i) {
+        const QString &arg = args[i];
+        const bool hasValue = i + 1 < args.size();
+        bool ok = true;
+        if (arg == "--days" && hasValue) {
+            options.days = args[++i].toInt(&ok);
+            ok = ok && options.days >= 0;
+            daysGiven = true;
+        } else if (arg == "--seed" && hasValue) {
+            options.seed = args[++i].toUInt(&ok);
+            options.seeded = true;
+        } else if (arg == "--load" && hasValue) {
+            options.load = args[++i];
+        } else if (arg == "--save" && hasValue) {
+            options.save = args[++i];
+        } else if (arg == "--check") {
+            options.check = true;
+        } else if (arg == "--news") {
+            options.news = true;
+        } else if (arg == "--no-times") {
+            options.times = false;
+        } else {
+            ok = false;
+        }
+        if (!ok)
+            return false;
+    }
+    return daysGiven;
+}
+
+// the new game of a user who takes every default: the manager's skills at their lowest
+void startNewGame(GameManager &world)
+{
+    world.resetWorld();
+    const Entity_Manager manager;
+    world.setManager({"Sim", "Manager", "Asia", "Japan", manager.text(Entity_Manager::ManagerReputation)},
+                     manager.values(), {});
+    const Entity_Gym gym;
+    world.setGym({"Sim Gym", "Kickboxing", "Black", "Red", gym.text(Entity_Gym::GymPrestige)}, gym.values(),
+                 gym.ledger());
+    world.loadDefaultWorld();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    Options options;
+    if (!parse(app.arguments(), options)) {
+        QTextStream(stderr) << usage;
+        return 2;
+    }
+    if (options.seeded)
+        Random::useTestClock(options.seed);
+
+    GameManager &world = GameManager::instance();
+    if (options.load.isEmpty()) {
+        startNewGame(world);
+    } else {
+        QString reason;
+        if (!SaveFile::loadFrom(options.load, &reason)) {
+            QTextStream(stderr) << "cannot load " << options.load << ": " << reason << '\n';
+            return 1;
+        }
+    }
+    out << "World of " << world.getCurrentDate().toString(Qt::TextDate) << ", " << options.days << " days"
+        << (options.seeded ? QString(", seed %1").arg(options.seed) : QString()) << '\n';
+
+    WorldReport report(options.times);
+    DayFlow::Print print = [&](const QString &paragraph) {
+        if (options.news)
+            out << paragraph << '\n';
+    };
+    int result = 0;
+    for (int day = 0; day < options.days; ++day) {
+        const QDate today = world.getCurrentDate();
+        if (report.hasDays() && today.year() != report.year())
+            out << report.finishYear(world).join('\n') << '\n';
+        DayFlow flow(world, print);
+        QElapsedTimer clock;
+        clock.start();
+        flow.run();
+        report.addDay(today, flow.tally(), clock.nsecsElapsed() / 1000, world);
+        if (options.check) {
+            const QStringList faults = WorldInvariants::check(world);
+            if (!faults.isEmpty()) {
+                out << "The world broke on " << today.toString(Qt::TextDate) << ":\n" << faults.join('\n') << '\n';
+                result = 1;
+                break;
+            }
+        }
+    }
+    if (report.hasDays())
+        out << report.finishYear(world).join('\n') << '\n';
+    if (options.times)
+        out << "  time: peak memory " << WorldReport::peakMemoryKb() / 1024 << " MB\n";
+
+    if (!options.save.isEmpty()) {
+        QString reason;
+        if (!SaveFile::saveTo(options.save, &reason)) {
+            QTextStream(stderr) << "cannot save " << options.save << ": " << reason << '\n';
+            return 1;
+        }
+    }
+    return result;
+}

@@ -1,0 +1,171 @@
+#include "world/DayFlow.h"
+
+#include "fighters/Random.h"
+#include "world/Entity_Event.h"
+#include "world/GameManager.h"
+#include "world/WorldMatch.h"
+
+#include <utility>
+
+namespace {
+
+// the day's first seed: the clock, plus a number of its own
+constexpr int DaySeedOffset = 17;
+
+} // namespace
+
+DayFlow::DayFlow(GameManager &world, Print print, Progress progress)
+    : world(world)
+    , print(std::move(print))
+    , progress(std::move(progress))
+{
+}
+
+void DayFlow::run()
+{
+    dayTally = Tally();
+    Random::seedFromClock(DaySeedOffset);
+    // the date of the day that is ending
+    print("News for " + world.getCurrentDate().toString(Qt::TextDate));
+    trainAllFighters();
+    welcomeANewStudent();
+    setProgress(1);
+    print(QString());
+    fightTodaysEvents();
+    setProgress(2);
+    // everything from here on sees the new day
+    world.advanceDate();
+    fighterNews();
+    setProgress(3);
+    contractNews();
+    removeExpiredOffers();
+    setProgress(4);
+    bookingNews();
+    setProgress(5);
+    makeOffers();
+    setProgress(6);
+    calendarJobs();
+}
+
+void DayFlow::printLines(const QString &heading, const QStringList &lines)
+{
+    print(heading);
+    for (const QString &line : lines)
+        print(line);
+    print(QString());
+}
+
+void DayFlow::setProgress(int step)
+{
+    if (progress)
+        progress(step);
+}
+
+void DayFlow::trainAllFighters()
+{
+    // the daily training of the user's fighters, charged to the gym, joins here with its reports
+    print("Gym Info: ");
+}
+
+void DayFlow::welcomeANewStudent()
+{
+    if (qrand() % 2 != 0)
+        return;
+    QString name;
+    // the gym turns him away when every place for a student is taken
+    if (world.generateFighter(name, true))
+        print(name + " has begun to take lessons at your gym.");
+}
+
+void DayFlow::fightTodaysEvents()
+{
+    for (const Entity_Event &event : world.todaysWorldEvents())
+        fightEvent(event);
+}
+
+void DayFlow::fightEvent(Entity_Event event)
+{
+    const QString eventName = event.name();
+    const QString orgName = event.organisationName();
+    QStringList lines;
+    for (int index = 0; index < event.matchCount(); ++index) {
+        const WorldMatch::Outcome outcome = WorldMatch::fight(world, event, event.matchAt(index));
+        if (outcome.ending == WorldMatch::Ending::NotFought)
+            continue;
+        ++dayTally.matches;
+        dayTally.knockouts += outcome.ending == WorldMatch::Ending::Knockout;
+        dayTally.technicalKnockouts += outcome.ending == WorldMatch::Ending::TechnicalKnockout;
+        dayTally.decisions += outcome.ending == WorldMatch::Ending::Decision;
+        dayTally.titleChanges += outcome.titleChanged;
+        if (!outcome.advancingId) {
+            lines << outcome.line + '\n';
+            continue;
+        }
+        lines << outcome.line;
+        lines << advanceTournamentWinner(outcome.advancingId, orgName) + '\n';
+        // the winner's new place may fill a later slot of this very card
+        for (const Entity_Event &reread : world.todaysWorldEvents())
+            if (reread.name() == eventName) {
+                event = reread;
+                break;
+            }
+    }
+    ++dayTally.events;
+    printLines(eventName + " event results: ", lines);
+    world.storeEventResults(lines, eventName, orgName);
+    world.refreshReputations(orgName);
+}
+
+QString DayFlow::advanceTournamentWinner(int, const QString &)
+{
+    // GameManager::advanceTournamentWinner joins here: it books the winner into the next round
+    return QString();
+}
+
+void DayFlow::fighterNews()
+{
+    // the world's birthdays, retirements and new talent (ageWorld, then ageUserFighters) join here
+    printLines("Fighter News: ", {});
+}
+
+void DayFlow::contractNews()
+{
+    // signFreeAgents fills the first list and processContracts the second when they join here
+    printLines("Free Agent News: ", {});
+    printLines("Contract News: ", {});
+}
+
+void DayFlow::removeExpiredOffers()
+{
+    // GameManager::removeExpiredOffers joins here: offers for nights less than a week off go
+}
+
+void DayFlow::bookingNews()
+{
+    printLines("Event booking news: ", world.bookEvents());
+}
+
+void DayFlow::makeOffers()
+{
+    // GameManager::makeOffers joins here: the one-off offers of the organisations to the gym
+}
+
+void DayFlow::calendarJobs()
+{
+    const QDate today = world.getCurrentDate();
+    if (today.day() == 1) {
+        world.rollGymMonth();
+        world.collectStudentFees();
+    }
+    if (today.day() == 2)
+        trimTrainingLogs();
+    if (today.dayOfYear() == 1) {
+        world.dropOldTitles();
+        world.rollOverEvents();
+    }
+}
+
+void DayFlow::trimTrainingLogs()
+{
+    // each fighter's trimTrainingLog of the month's training joins here
+}
