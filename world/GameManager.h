@@ -69,6 +69,9 @@ public:
     // 11 (pack: 12) times "N/A", 94 (pack: 95) zeros, 7 zeros, 49 zeros, 1 January 2000.
     QStringList fighterNames() const;
     QStringList studentNames() const;
+    // the world's pools of men without an organisation
+    int freeAgentCount() const { return int(freeAgents.size()); }
+    int amateurCount() const { return int(amateurs.size()); }
     QList<int> fighterIds() const;
     QStringList fighterStrings(int index) const;
     QList<int> fighterInts(int index) const;

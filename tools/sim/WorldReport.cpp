@@ -1,18 +1,9 @@
 #include "WorldReport.h"
 
-#include "fighters/Entity_Fighter.h"
-#include "fighters/Entity_Gym.h"
-#include "fighters/Entity_GymFighter.h"
-#include "fighters/Entity_Manager.h"
-#include "fighters/StreamForm.h"
-#include "world/Entity_Booking.h"
-#include "world/Entity_Org.h"
 #include "world/GameManager.h"
 
 #include <QByteArray>
-#include <QDataStream>
 #include <QFile>
-#include <QMultiMap>
 
 #include <algorithm>
 #include <climits>
@@ -59,9 +50,8 @@ void WorldReport::addDay(const QDate &day, const DayFlow::Tally &tally, qint64 m
 
 QStringList WorldReport::finishYear(const GameManager &world)
 {
-    int freeAgents = 0;
-    int amateurs = 0;
-    countPools(world, freeAgents, amateurs);
+    const int freeAgents = world.freeAgentCount();
+    const int amateurs = world.amateurCount();
     const DayFlow::Tally &t = yearTally;
     QStringList lines;
     lines << QString("Year %1: %2 days, %3 events, %4 matches")
@@ -94,39 +84,6 @@ QStringList WorldReport::finishYear(const GameManager &world)
     return lines;
 }
 
-void WorldReport::countPools(const GameManager &world, int &freeAgents, int &amateurs)
-{
-    // the pools are counted in the world as a save holds it
-    QByteArray bytes;
-    {
-        QDataStream out(&bytes, QIODevice::WriteOnly);
-        out.setVersion(StreamForm::version);
-        world.writeTo(out);
-    }
-    QDataStream in(bytes);
-    in.setVersion(StreamForm::version);
-    qint32 nextId = 0;
-    QDate date;
-    Entity_Manager manager;
-    Entity_Gym gym;
-    QList<Entity_Fighter> students;
-    QList<Entity_GymFighter> fighters;
-    QList<Entity_Org> organisations;
-    QMultiMap<int, Entity_Fighter> free;
-    QList<Entity_Booking> offers;
-    QList<Entity_Booking> bookings;
-    QMultiMap<int, Entity_Fighter> amateurPool;
-    in >> nextId >> date >> manager >> gym;
-    StreamForm::readList(in, students);
-    StreamForm::readList(in, fighters);
-    StreamForm::readList(in, organisations);
-    StreamForm::readMultiMap(in, free);
-    StreamForm::readList(in, offers);
-    StreamForm::readList(in, bookings);
-    StreamForm::readMultiMap(in, amateurPool);
-    freeAgents = int(free.size());
-    amateurs = int(amateurPool.size());
-}
 
 qint64 WorldReport::peakMemoryKb()
 {

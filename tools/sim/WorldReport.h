@@ -23,8 +23,6 @@ public:
     // the year's lines; the report starts on a new year
     QStringList finishYear(const GameManager &world);
 
-    // the free agents and the amateurs that the world holds now
-    static void countPools(const GameManager &world, int &freeAgents, int &amateurs);
     // the peak memory of the process in kilobytes, 0 where the system doesn't tell
     static qint64 peakMemoryKb();
 

@@ -19,6 +19,7 @@
 #include "world/WorldInvariants.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QTextStream>
 
@@ -102,6 +103,12 @@ int main(int argc, char *argv[])
 
     GameManager &world = GameManager::instance();
     if (options.load.isEmpty()) {
+        // the default files lie beside the game, in ./Resources/Defaults
+        if (!QDir(QStringLiteral("Resources/Defaults")).exists()) {
+            QTextStream(stderr) << "no default world in ./Resources/Defaults: run the simulator from the "
+                                   "directory of the game (build/bin)\n";
+            return 1;
+        }
         startNewGame(world);
     } else {
         QString reason;
