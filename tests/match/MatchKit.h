@@ -3,6 +3,7 @@
 #include "fighters/Entity_Fighter.h"
 #include "match/CommentaryBuffer.h"
 #include "match/MatchManager.h"
+#include "world/JudgesCards.h"
 
 #include <QString>
 
@@ -41,8 +42,8 @@ inline Outcome fight(const Entity_Fighter &one, const Entity_Fighter &two, Comme
     MatchManager &match = MatchManager::instance();
     match.startMatch(one, two, commentary);
     Outcome outcome;
-    int totals[2][3] = {};
-    for (int round = 1; round <= 10; ++round) {
+    JudgesCards cards;
+    for (int round = 1; round <= JudgesCards::LastRound; ++round) {
         if (round > 1)
             match.nextRound();
         match.beginRound();
@@ -59,17 +60,9 @@ inline Outcome fight(const Entity_Fighter &one, const Entity_Fighter &two, Comme
             outcome.stoppage = true;
             break;
         }
-        const QList<int> scores = match.endRoundScores();
-        int votes[2] = {};
-        for (int judge = 0; judge < 3; ++judge) {
-            const int a = scores[judge], b = scores[3 + judge];
-            totals[0][judge] += (a >= b ? 10 : 9) - scores[6];
-            totals[1][judge] += (b >= a ? 10 : 9) - scores[7];
-            if (totals[0][judge] != totals[1][judge])
-                ++votes[totals[0][judge] > totals[1][judge] ? 0 : 1];
-        }
-        if (round >= 3 && (qMax(votes[0], votes[1]) >= 2 || round == 10)) {
-            match.decide(votes[0], votes[1]);
+        cards.addRound(match.endRoundScores());
+        if (round >= 3 && !JudgesCards::verdict(cards.votesOne(), cards.votesTwo(), round).isEmpty()) {
+            match.decide(cards.votesOne(), cards.votesTwo());
             break;
         }
     }

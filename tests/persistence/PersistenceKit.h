@@ -9,6 +9,8 @@
 #include "world/Entity_Org.h"
 #include "world/GameManager.h"
 
+#include "common/SavedWorld.h"
+
 #include <QByteArray>
 #include <QDataStream>
 #include <QDir>
@@ -21,64 +23,16 @@ namespace PersistenceKit {
 // the running world in the form of a save file
 inline QByteArray worldBytes()
 {
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(StreamForm::version);
-    GameManager::instance().writeTo(out);
-    return bytes;
+    return SavedWorld::runningBytes();
 }
 
 // The eleven fields of a world, as a save file holds them: read off the running world, or made
 // by hand and put in its place.
-struct World {
-    qint32 nextId = 1058;
-    QDate date{2011, 1, 1};
-    Entity_Manager manager;
-    Entity_Gym gym;
-    QList<Entity_Fighter> students;
-    QList<Entity_GymFighter> fighters;
-    QList<Entity_Org> organisations;
-    QMultiMap<int, Entity_Fighter> freeAgents;
-    QList<Entity_Booking> offers;
-    QList<Entity_Booking> bookings;
-    QMultiMap<int, Entity_Fighter> amateurs;
-
-    QByteArray bytes() const
-    {
-        QByteArray data;
-        QDataStream out(&data, QIODevice::WriteOnly);
-        out.setVersion(StreamForm::version);
-        out << nextId << date << manager << gym;
-        StreamForm::writeList(out, students);
-        StreamForm::writeList(out, fighters);
-        StreamForm::writeList(out, organisations);
-        StreamForm::writeMap(out, freeAgents);
-        StreamForm::writeList(out, offers);
-        StreamForm::writeList(out, bookings);
-        StreamForm::writeMap(out, amateurs);
-        return data;
-    }
-
-    bool load() const
-    {
-        QDataStream in(bytes());
-        in.setVersion(StreamForm::version);
-        return GameManager::instance().readFrom(in);
-    }
-
+struct World : SavedWorld {
     static World running()
     {
         World world;
-        QDataStream in(worldBytes());
-        in.setVersion(StreamForm::version);
-        in >> world.nextId >> world.date >> world.manager >> world.gym;
-        StreamForm::readList(in, world.students);
-        StreamForm::readList(in, world.fighters);
-        StreamForm::readList(in, world.organisations);
-        StreamForm::readMultiMap(in, world.freeAgents);
-        StreamForm::readList(in, world.offers);
-        StreamForm::readList(in, world.bookings);
-        StreamForm::readMultiMap(in, world.amateurs);
+        world.read(worldBytes());
         return world;
     }
 

@@ -12,6 +12,8 @@
 #include "world/Entity_Org.h"
 #include "world/GameManager.h"
 
+#include "common/SavedWorld.h"
+
 #include <QByteArray>
 #include <QDataStream>
 #include <QIODevice>
@@ -104,51 +106,17 @@ template <typename Record> Record readBack(const QByteArray &bytes, QDataStream:
 }
 
 // A whole world written in the order of a save file, to be read by GameManager::readFrom.
-struct World {
-    int nextId = 1100;
-    QDate date{2011, 3, 1};
-    Entity_Manager manager;
-    Entity_Gym gym;
-    QList<Entity_Fighter> students;
-    QList<Entity_GymFighter> fighters;
-    QList<Entity_Org> organisations;
-    QMultiMap<int, Entity_Fighter> freeAgents;
-    QList<Entity_Booking> offers;
-    QList<Entity_Booking> bookings;
-    QMultiMap<int, Entity_Fighter> amateurs;
-
-    QByteArray bytes() const
+struct World : SavedWorld {
+    World()
     {
-        QByteArray data;
-        QDataStream out(&data, QIODevice::WriteOnly);
-        out.setVersion(StreamForm::version);
-        out << qint32(nextId) << date << manager << gym;
-        StreamForm::writeList(out, students);
-        StreamForm::writeList(out, fighters);
-        StreamForm::writeList(out, organisations);
-        StreamForm::writeMap(out, freeAgents);
-        StreamForm::writeList(out, offers);
-        StreamForm::writeList(out, bookings);
-        StreamForm::writeMap(out, amateurs);
-        return data;
-    }
-
-    // makes this the running world; false if the world refused it
-    bool load() const
-    {
-        QDataStream in(bytes());
-        in.setVersion(StreamForm::version);
-        return GameManager::instance().readFrom(in);
+        nextId = 1100;
+        date = QDate(2011, 3, 1);
     }
 };
 
 inline QByteArray savedWorld()
 {
-    QByteArray data;
-    QDataStream out(&data, QIODevice::WriteOnly);
-    out.setVersion(StreamForm::version);
-    GameManager::instance().writeTo(out);
-    return data;
+    return SavedWorld::runningBytes();
 }
 
 } // namespace WorldSamples
