@@ -248,7 +248,7 @@ int Entity_MatchFighter::initiative()
 
     // corner work can lift the guard's attributes past 100, so the guard is held at 1
     int value = attack / atLeastOne(guard);
-    if (text(FightingStyle) == QLatin1String("Brawler"))
+    if (MatchState::styleIndexOf(text(FightingStyle)) == Brawler)
         value += 5;
     constexpr struct {
         int tactic, shift;
