@@ -9,7 +9,8 @@
 #include "shell/TopMenuBar.h"
 #include "screens/Module_MainMenu.h"
 #include "world/GameManager.h"
-#include "/work/build-newgame/shim/NationShim.h"
+#include "persistence/DefaultFiles.h"
+#include "persistence/NationTable.h"
 
 #include <QComboBox>
 #include <QFrame>
@@ -117,7 +118,7 @@ Module_NewGame::Module_NewGame(QWidget *parent)
     , screenLayout(new QVBoxLayout(this))
 {
     QList<QStringList> lists;
-    if (!NationShim::readNations(lists))
+    if (!NationTable::read(lists, DefaultFiles::path(DefaultFiles::nationsFile())))
         // shown over the screen once it stands; the screen goes on with empty nation lists
         QMetaObject::invokeMethod(this, &Module_NewGame::warnOfMissingNations, Qt::QueuedConnection);
     for (int region = 0; region < RegionCount; ++region)
@@ -128,7 +129,7 @@ Module_NewGame::Module_NewGame(QWidget *parent)
     gymPage->hide();
     screenLayout->addWidget(managerPage);
 
-    regionBox->addItems(NationShim::regionNames());
+    regionBox->addItems(NationTable::regions());
     regionBox->setCurrentIndex(0);
     changeRegion(0);
     connect(regionBox, &QComboBox::currentIndexChanged, this, &Module_NewGame::changeRegion);

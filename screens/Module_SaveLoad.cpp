@@ -1,12 +1,12 @@
 #include "screens/Module_SaveLoad.h"
 
+#include "persistence/SaveFile.h"
 #include "screens/Module_MainMenu.h"
 #include "shell/MessageDialog.h"
 #include "shell/ModuleManager.h"
 #include "shell/ScreenFactory.h"
 #include "shell/StyleSheetFile.h"
 #include "shell/TopMenuBar.h"
-#include "/work/build-newgame/shim/SaveFileShim.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
