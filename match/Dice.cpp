@@ -10,12 +10,15 @@ Dice::Dice(int composure, int valueAtHand)
 
 void Dice::reseed(int valueAtHand)
 {
-    Random::stir(lastRoll + composure, valueAtHand);
+    const int sumAtHand = rolled ? runningSum : composure;
+    Random::stir(lastRoll + composure, sumAtHand + valueAtHand);
 }
 
 int Dice::remember(int roll)
 {
     lastRoll = roll;
+    runningSum += roll;
+    rolled = true;
     return roll;
 }
 

@@ -2,8 +2,10 @@
 
 // The engine's way of drawing. A calculation seeds from the clock when it starts; before each
 // roll there is a wait of reseeds from the clock, as many as the last roll plus the man's
-// composure, of which only the last one counts. So rolls that fall into the same moment with
-// the same value at hand come out equal, as they do in the ring's own rhythm.
+// composure, of which only the last one counts. That last reseed carries the calculation's
+// running sum of rolls (the man's composure before the first one), so two rolls of one
+// calculation in the same moment still differ; rolls of the same moment with the same sum come
+// out equal, as they do in the ring's own rhythm.
 class Dice
 {
 public:
@@ -26,4 +28,6 @@ private:
 
     int composure;
     int lastRoll = 0;
+    int runningSum = 0;
+    bool rolled = false;
 };

@@ -236,18 +236,21 @@ bool Entity_MatchFighter::comboRoll()
 
 int Entity_MatchFighter::initiative()
 {
-    Dice roll(number(Composure));
+    // eleven d3 in four runs of three, three, three and two, each run within one seed
     const Number attackParts[] = {Conditioning, LungCapacity, Reflexes, Coordination, Awareness, Aggression, Ferocity};
     const Number guardParts[] = {FightIQ, Precision, MoveSpeed, RingSense};
+    Dice roll(number(Composure));
+    int drawn = 0;
+    const auto d3 = [&roll, &drawn] { return drawn++ % 3 == 0 ? roll.d(3) : roll.nextD(3); };
     int attack = 0;
     for (Number part : attackParts)
-        attack += roll.d(3) * number(part);
+        attack += d3() * number(part);
     int guard = 1;
     for (Number part : guardParts)
-        guard += roll.d(3) * (100 - number(part));
+        guard += d3() * (100 - number(part));
 
-    // corner work can lift the guard's attributes past 100, so the guard is held at 1
-    int value = attack / atLeastOne(guard);
+    // corner work can lift the guard's attributes past 100 and the guard to 0
+    int value = attack / nonZero(guard);
     if (MatchState::styleIndexOf(text(FightingStyle)) == Brawler)
         value += 5;
     constexpr struct {

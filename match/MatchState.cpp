@@ -40,7 +40,7 @@ int MatchState::score(const ScoreFormula &f, Dice &dice) const
                                 : (200 - a - b + firstDice) + (200 - c - d + secondDice);
     const bool sharp = f.shape == ScoreShape::Drive || f.shape == ScoreShape::RestraintSharp;
     const int divisor = sharp ? (100 - k) / 10 + 1 : k / 10 + 1;
-    return numerator / atLeastOne(divisor);
+    return numerator / nonZero(divisor);
 }
 
 QString MatchState::line(CommentaryList list, int roll, const Entity_MatchFighter &fighter)

@@ -70,8 +70,8 @@ private:
     int style;
 };
 
-// a divisor that corner work could bring to 0 or below is held at 1
-inline int atLeastOne(int divisor)
+// a divisor that corner work could bring to 0 is held at 1; a negative one keeps its sign
+inline int nonZero(int divisor)
 {
-    return divisor < 1 ? 1 : divisor;
+    return divisor == 0 ? 1 : divisor;
 }

@@ -88,7 +88,7 @@ void State_Atk_Attack::execute(Entity_MatchFighter &fighter)
     for (const StrikeOption &strike : table.strikes) {
         const int index = strikeIndex(strike.code);
         const int sum = number(F::strikeSpeed(index)) + number(F::strikeTechnique(index)) + number(F::strikePower(index));
-        scores.append((sum + 3 * roll.d(50)) / atLeastOne((100 - number(strike.sharpener)) / 10 + 1));
+        scores.append((sum + 3 * roll.d(50)) / nonZero((100 - number(strike.sharpener)) / 10 + 1));
     }
     // a man of a style likes the strikes of his style a little more
     for (int i = 0; i < 6; ++i)

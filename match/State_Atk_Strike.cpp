@@ -79,14 +79,14 @@ void State_Atk_Strike::execute(Entity_MatchFighter &fighter)
     int accuracySum = speed + number(row.a) + 2 * roll.d(20);
     accuracySum += technique + precision + 2 * roll.d(20);
     accuracySum += number(row.b) + speed + 2 * roll.d(20);
-    int accuracy = accuracySum / atLeastOne(roll.d(20) - number(row.c) + 101);
+    int accuracy = accuracySum / nonZero(roll.d(20) - number(row.c) + 101);
     const int b = roll.d(20);
     accuracy += accuracyHalvesByBand[clampedBand(fighter.getStaminaBand())] * b / 2;
 
     int powerSum = power + punchPower + 2 * roll.d(50);
     powerSum += precision + punchPower + 2 * roll.d(50);
     powerSum += 2 * (power + punchPower + 2 * roll.d(50));
-    fighter.setActionValue(powerSum / atLeastOne(102 - number(row.e) + roll.u(10)));
+    fighter.setActionValue(powerSum / nonZero(102 - number(row.e) + roll.u(10)));
 
     // the whole outcome of the strike runs inside this send
     match().sendToDefender(code, accuracy);

@@ -78,7 +78,7 @@ void State_Def_DefMove::execute(Entity_MatchFighter &fighter)
                              F::Anticipation, stop.sharpener},
                             roll);
     int damage = number(F::PunchPower) + roll.d(50) + number(F::strikePower(strike)) + roll.d(50);
-    damage /= atLeastOne(roll.d(50) - number(stop.steadier) + 101);
+    damage /= nonZero(roll.d(50) - number(stop.steadier) + 101);
     // one time in two the stop fails before anything else
     const int drawn = roll.u(8) < 4 ? value : 0;
 

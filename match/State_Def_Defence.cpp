@@ -113,7 +113,7 @@ void State_Def_Defence::execute(Entity_MatchFighter &fighter)
     const auto tenth = [this](F::Number field) { return field == None ? 0 : number(field) / 10; };
     int value = tenth(row.t1) + tenth(row.t2) + 2 * roll.d(row.die);
     value += tenth(row.t3) + tenth(row.t4) + row.secondDice * roll.d(row.die);
-    value /= atLeastOne((roll.d(20) - number(row.steadier) + 100) / 10 + 1);
+    value /= nonZero((roll.d(20) - number(row.steadier) + 100) / 10 + 1);
     const int entry = roll.u(12) < row.entries ? value : 0;
 
     const int accuracy = fighter.getActionValue();

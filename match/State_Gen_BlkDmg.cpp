@@ -51,7 +51,7 @@ void State_Gen_BlkDmg::execute(Entity_MatchFighter &fighter)
     Dice roll = dice();
     int absorbed = number(F::Durability) / 10 + number(row.speed) / 10 + 2 * roll.d(10);
     absorbed += number(row.technique) / 10 + roll.d(10);
-    absorbed /= atLeastOne((101 - number(F::Resilience) + roll.u(20)) / 15 + 1);
+    absorbed /= nonZero((101 - number(F::Resilience) + roll.u(20)) / 15 + 1);
     const int damage = qMax(0, fighter.getActionValue() - absorbed);
 
     fighter.changeStamina(-damage);

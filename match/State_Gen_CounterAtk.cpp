@@ -63,7 +63,7 @@ void State_Gen_CounterAtk::execute(Entity_MatchFighter &fighter)
         int sum = power + punchPower + 2 * roll.d(40);
         sum += number(F::Precision) + punchPower + 2 * roll.d(40);
         sum += power + punchPower + 2 * roll.d(40);
-        value = sum / atLeastOne((roll.d(10) - number(counter.steadier) + 100) / 3 + 1);
+        value = sum / nonZero((roll.d(10) - number(counter.steadier) + 100) / 3 + 1);
         fighter.addComment(line(counter.line, roll.d(100), fighter));
         fighter.addStrike(strike, 1, 1);
         fighter.changeStamina(-(100 - number(F::strikeTechnique(strike))) / 10);

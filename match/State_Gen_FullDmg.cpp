@@ -29,7 +29,7 @@ void State_Gen_FullDmg::execute(Entity_MatchFighter &fighter)
     Dice roll = dice();
     int absorbed = number(F::Conditioning) / 10 + roll.d(10);
     absorbed += number(F::Resilience) / 10 + roll.d(10);
-    absorbed /= atLeastOne((roll.d(10) - number(F::Durability) + 100) / 5 + 1);
+    absorbed /= nonZero((roll.d(10) - number(F::Durability) + 100) / 5 + 1);
     const int damage = qMax(0, fighter.getActionValue() - absorbed);
 
     const int result = hitWhereItLands(fighter, fighter.getActionCode(), damage, true);
