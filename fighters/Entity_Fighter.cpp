@@ -1,5 +1,7 @@
 #include "fighters/Entity_Fighter.h"
 
+#include "fighters/ResultEntry.h"
+
 #include "fighters/StreamForm.h"
 
 #include <algorithm>
@@ -146,7 +148,7 @@ void Entity_Fighter::addResult(const QDate &date, QString &result, const QString
         QString title = result.mid(bar + 1);
         result.truncate(bar);
         const qsizetype reign = openReign(titles, title);
-        if (result.contains("Win")) {
+        if (ResultEntry(result).isWin()) {
             if (reign < 0) {
                 result += " - Won " + title;
                 // a tournament title carries its year and needs no reign
@@ -156,22 +158,23 @@ void Entity_Fighter::addResult(const QDate &date, QString &result, const QString
             } else {
                 result += " - Retained " + title;
             }
-        } else if (result.contains("Loss") && reign >= 0) {
+        } else if (ResultEntry(result).isLoss() && reign >= 0) {
             result += " - Lost " + title;
             titles[reign] += " until " + dateText;
         }
     }
     careerHistory.insert(date, result);
 
-    if (result.contains("Win")) {
+    const ResultEntry entry(result);
+    if (entry.isWin()) {
         ++numbers[Wins];
-        if (!result.contains("Decision"))
+        if (!entry.byDecision())
             ++numbers[Kos];
-    } else if (result.contains("Loss")) {
+    } else if (entry.isLoss()) {
         ++numbers[Losses];
     }
 
-    const bool comesOff = result.contains("Loss") || (result.contains("Win") && usesUpContractOnWin(matchType));
+    const bool comesOff = entry.isLoss() || (entry.isWin() && usesUpContractOnWin(matchType));
     if (!comesOff)
         return;
     if (--numbers[ContractFightsLeft] < 1) {

@@ -1,5 +1,7 @@
 #include "fighters/Entity_GymFighter.h"
 
+#include "fighters/ResultEntry.h"
+
 #include "fighters/Random.h"
 #include "fighters/StreamForm.h"
 
@@ -185,10 +187,11 @@ bool Entity_GymFighter::checkLevelDown(int skill, QStringList &report)
 void Entity_GymFighter::addMatchExperience(const QList<int> &statistics, const QString &result)
 {
     int base = statistics.value(KnockdownsGiven) - statistics.value(KnockdownsTaken);
-    if (result.contains("Win")) {
+    const ResultEntry entry(result);
+    if (entry.isWin()) {
         base += 5;
         reputationPoints += 15 + 2 * marketability;
-    } else if (result.contains("Loss")) {
+    } else if (entry.isLoss()) {
         base += 1;
         reputationPoints -= 2 * (5 - marketability) + 1;
     }

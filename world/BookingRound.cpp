@@ -224,7 +224,7 @@ bool BookingRound::book(Turn &turn, const Candidate &man, const QString &matchTy
     news.append(QString("Booked %1 for a %2 at %3").arg(man.fullName, matchType, oldName));
     if (dropOffers)
         world.removeOffersForEvent(oldName);
-    organisation.renameEvent(oldName, man.lastName);
+    organisation.renameEvent(oldName, turn.event.date(), man.id, man.lastName);
     turn.event = organisation.nextEvent(today);
     const QString newName = turn.event.name();
 

@@ -134,7 +134,7 @@ void Entity_Event::removeFighter(int id, bool isGymFighter)
     }
 }
 
-void Entity_Event::rename(const QString &lastName)
+void Entity_Event::rename(int fighterId, const QString &lastName)
 {
     // tournament nights keep the name of the data
     if (card.isEmpty() || hasQualifier() || hasTournamentRounds())
@@ -142,7 +142,7 @@ void Entity_Event::rename(const QString &lastName)
     const Entity_Match &mainEvent = card.last();
     QString &name = texts[Name];
     const QString rest = name.section('.', 1, 1);
-    if (mainEvent.fighterTwo().contains(lastName)) {
+    if (mainEvent.fighterTwoId() == fighterId) {
         // a name of the data has no " vs." to fill in
         if (rest.isEmpty())
             return;
@@ -150,7 +150,7 @@ void Entity_Event::rename(const QString &lastName)
             name.replace(Entity_Match::OpenPlace, lastName);
         else
             name.replace(rest, lastName);
-    } else if (mainEvent.fighterOne().contains(lastName)) {
+    } else if (mainEvent.fighterOneId() == fighterId) {
         // the text after " vs." keeps its leading blank, so a kept opponent stands two blanks away
         const QString opponent =
             mainEvent.fighterTwo() == Entity_Match::OpenPlace ? QString(Entity_Match::OpenPlace) : rest;

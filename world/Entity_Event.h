@@ -59,8 +59,9 @@ public:
 
     bool addFighter(int id, const QString &name, const QString &matchType, bool isGymFighter);
     void removeFighter(int id, bool isGymFighter);
-    // the main event gives the night its name as it fills up
-    void rename(const QString &lastName);
+    // the main event gives the night its name as it fills up; the man just booked is known by his
+    // id, so a namesake on the undercard leaves the name alone
+    void rename(int fighterId, const QString &lastName);
     // the same night one year on, with an empty card
     void rollOver();
     void addResults(const QStringList &lines) { resultLines.append(lines); }

@@ -91,11 +91,11 @@ bool Entity_Org::addToEvent(int id, const QString &fighterName, const QString &e
     return false;
 }
 
-void Entity_Org::renameEvent(const QString &eventName, const QString &lastName)
+void Entity_Org::renameEvent(const QString &eventName, const QDate &date, int fighterId, const QString &lastName)
 {
     for (Entity_Event &event : calendar) {
-        if (event.name() == eventName) {
-            event.rename(lastName);
+        if (event.name() == eventName && event.date() == date) {
+            event.rename(fighterId, lastName);
             return;
         }
     }

@@ -58,7 +58,8 @@ public:
     // the first event of that name on `today` or later takes him on the card
     bool addToEvent(int id, const QString &name, const QString &eventName, const QString &matchType, bool isGymFighter,
                     const QDate &today);
-    void renameEvent(const QString &eventName, const QString &lastName);
+    // names repeat from year to year, so the night is found by its date as well
+    void renameEvent(const QString &eventName, const QDate &date, int fighterId, const QString &lastName);
     // tonight's event keeps its lines; holding a show puts the organisation in a good mood again
     void storeResults(const QStringList &lines, const QString &eventName, const QDate &today);
     // last year's nights go to the past, and the same nights stand empty one year on

@@ -2,6 +2,7 @@
 
 #include "fighters/Entity_Gym.h"
 #include "fighters/Entity_Manager.h"
+#include "fighters/ResultEntry.h"
 #include "fighters/StreamForm.h"
 #include "world/BookingRound.h"
 
@@ -43,13 +44,6 @@ void emptyLook(QStringList &colours, QList<int> &images)
 {
     colours = {"Red", "Black", "Brown"};
     images = {1, 1, 1};
-}
-
-// the title of a career entry, behind its "|"; empty for a fight without a title
-QString titleOfEntry(const QString &entry)
-{
-    const qsizetype bar = entry.indexOf('|');
-    return bar >= 0 ? entry.mid(bar + 1) : QString();
 }
 
 } // namespace
@@ -238,20 +232,19 @@ void GameManager::recordGymResult(int id, const QString &entry, const QString &m
     QString line = entry;
     fighter.addResult(currentDate, line, matchType);
 
-    const QString title = titleOfEntry(entry);
-    const bool titleFight = entry.contains('|');
-    if (entry.contains("Win")) {
+    const ResultEntry result(entry);
+    if (result.isWin()) {
         manager->addWin();
-        if (titleFight)
-            manager->addTitle(currentDate, title);
-    } else if (entry.contains("Loss")) {
+        if (result.isTitleFight())
+            manager->addTitle(currentDate, result.title());
+    } else if (result.isLoss()) {
         manager->addLoss();
-        if (titleFight)
-            manager->closeTitle(currentDate, title);
+        if (result.isTitleFight())
+            manager->closeTitle(currentDate, result.title());
     }
     // a man whose contract ended with this fight has left with the belt
-    if (titleFight && fighter.text(Entity_Fighter::Organisation) == QLatin1String("Free Agent"))
-        manager->closeTitle(currentDate, title);
+    if (result.isTitleFight() && fighter.text(Entity_Fighter::Organisation) == QLatin1String("Free Agent"))
+        manager->closeTitle(currentDate, result.title());
 }
 
 void GameManager::setTitleHolder(const QString &orgName, const QString &title, int winnerId, bool isGymFighter)
@@ -429,14 +422,17 @@ bool GameManager::applyMatchOutcome(const QList<int> &statistics, int id, const 
 
     int purse = fighter.fightPurse;
     bool levelUp = false;
-    if (entry.contains("Win")) {
+    const ResultEntry result(entry);
+    if (result.isWin()) {
         purse *= 2;
-        gym->gainPrestige(entry.contains("KO"));
+        gym->gainPrestige(result.byKnockout());
+        // a world title or this year's tournament makes a big win
+        const QString &title = result.title();
         const bool titleFight =
-            entry.contains(QString::number(currentDate.year())) || entry.contains("World Championship");
+            title.contains(QString::number(currentDate.year())) || title.contains("World Championship");
         levelUp = manager->gainReputation(titleFight);
-    } else if (entry.contains("Loss")) {
-        gym->losePrestige(entry.contains("KO"));
+    } else if (result.isLoss()) {
+        gym->losePrestige(result.byKnockout());
     }
     gym->addIncome(purse, true);
     return levelUp;

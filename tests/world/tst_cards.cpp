@@ -207,29 +207,31 @@ private slots:
     {
         Entity_Event card = fightNight();
         card.addFighter(11, "Al Ames", Single, false);
-        card.rename("Ames"); // an undercard man leaves the name alone
+        card.rename(11, "Ames"); // an undercard man leaves the name alone
         QCOMPARE(card.name(), QString("G-1 Fight Night 2011"));
         card.addFighter(12, "Bo Bell", Single, false);
         card.addFighter(13, "Cy Cole", Single, false);
         card.addFighter(14, "Dee Dunn", Single, false);
         card.addFighter(15, "Ed Egan", Single, false);
-        card.rename("Egan");
+        card.rename(15, "Egan");
         QCOMPARE(card.name(), QString("G-1: Egan vs. TBA"));
-        card.rename("Nobody");
+        card.rename(99, "Nobody");
         QCOMPARE(card.name(), QString("G-1: Egan vs. TBA"));
         card.addFighter(16, "Fin Ford", Single, false);
-        card.rename("Ford");
+        card.rename(16, "Ford");
+        QCOMPARE(card.name(), QString("G-1: Egan vs. Ford"));
+        card.rename(12, "Ford"); // a namesake on the undercard
         QCOMPARE(card.name(), QString("G-1: Egan vs. Ford"));
 
         // a new first man keeps the second, the text after "vs." with its blank
         card.removeFighter(15, false);
         card.addFighter(17, "Gil Gow", Single, false);
-        card.rename("Gow");
+        card.rename(17, "Gow");
         QCOMPARE(card.name(), QString("G-1: Gow vs.  Ford"));
         // a new second man takes the place of that text, blank and all
         card.removeFighter(16, false);
         card.addFighter(18, "Hap Hull", Single, false);
-        card.rename("Hull");
+        card.rename(18, "Hull");
         QCOMPARE(card.name(), QString("G-1: Gow vs.Hull"));
     }
 
@@ -237,11 +239,11 @@ private slots:
     {
         Entity_Event finals = finalsNight();
         finals.addFighter(21, "Ian Ives", Final, false);
-        finals.rename("Ives");
+        finals.rename(21, "Ives");
         QCOMPARE(finals.name(), QString("GKO Grand Prix 2011"));
         Entity_Event qualifiers = makeEvent("GKO Qualifiers 2011", "GKO", night, {slot(Qualifier), slot(Single)});
         qualifiers.addFighter(22, "Jo Judd", Single, false);
-        qualifiers.rename("Judd");
+        qualifiers.rename(22, "Judd");
         QCOMPARE(qualifiers.name(), QString("GKO Qualifiers 2011"));
     }
 

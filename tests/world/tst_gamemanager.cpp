@@ -309,8 +309,13 @@ private slots:
         QTest::newRow("a title fight by its name")
             << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala|G-1 World Championship" << 12000 << 108 << 120
             << true;
-        QTest::newRow("a title fight by the year")
-            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala 2011" << 12000 << 108 << 120 << true;
+        QTest::newRow("a tournament title by its year")
+            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala|G-1 Grand Prix 2011" << 12000 << 108 << 120
+            << true;
+        QTest::newRow("the year in the night's name makes no title")
+            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala 2011" << 12000 << 108 << 105 << true;
+        QTest::newRow("a knockout word in the organisation's name")
+            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - GKO: Gala" << 12000 << 108 << 105 << true;
         QTest::newRow("a knock-out defeat pays once")
             << "Loss: Al Ames - TKO(Low Kick) - Rd. 2(1:00) - G-1: Gala" << 11000 << 95 << 95 << false;
         QTest::newRow("a decision defeat")

@@ -217,9 +217,13 @@ private slots:
         QVERIFY(org.addToEvent(12, "Bo Bell", "G-1 Autumn 2011", "Single Match", false, today));
         QVERIFY(!org.addToEvent(13, "Cy Cole", "G-1 Autumn 2011", "Single Match", false, today));
         // the first man came with the data, unnamed: the second finds no " vs." to fill
-        org.renameEvent("G-1 Autumn 2011", "Bell");
+        const QDate autumn(2011, 9, 8);
+        org.renameEvent("G-1 Autumn 2011", autumn, 12, "Bell");
         QCOMPARE(org.nextEvent(QDate(2011, 6, 9)).name(), QString("G-1 Autumn 2011"));
-        org.renameEvent("G-1 Autumn 2011", "Ames");
+        // a night of the same name on another date is another night
+        org.renameEvent("G-1 Autumn 2011", autumn.addYears(1), 11, "Ames");
+        QCOMPARE(org.nextEvent(QDate(2011, 6, 9)).name(), QString("G-1 Autumn 2011"));
+        org.renameEvent("G-1 Autumn 2011", autumn, 11, "Ames");
         QCOMPARE(org.nextEvent(QDate(2011, 6, 9)).name(), QString("G-1: Ames vs. "));
         QVERIFY(!org.addToEvent(13, "Cy Cole", "Unknown Night", "Single Match", false, today));
 
