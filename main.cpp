@@ -1,3 +1,4 @@
+#include "screens/ScreenFactory.h"
 #include "shell/ModuleManager.h"
 #include "world/GameManager.h"
 
@@ -9,6 +10,6 @@ int main(int argc, char *argv[])
     // Qt looks for its plug-ins beside the game too
     QCoreApplication::addLibraryPath("./");
     GameManager::instance();
-    ModuleManager::instance().initialize();
+    ModuleManager::instance().initialize(ScreenFactory::builders());
     return application.exec();
 }

@@ -3,7 +3,7 @@
 #include "screens/Module_NewGame.h"
 #include "screens/Module_Placeholder.h"
 #include "screens/Module_SaveLoad.h"
-#include "shell/ConfirmDialog.h"
+#include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
 
@@ -65,11 +65,11 @@ void Module_MainMenu::loadGame()
 
 void Module_MainMenu::showHelpScreen()
 {
-    ModuleManager::instance().changeModule(new Module_Placeholder("How To Play"));
+    ModuleManager::instance().changeModule(new Module_Placeholder("How To Play", Module_Placeholder::BackToMainMenu));
 }
 
 void Module_MainMenu::quitGame()
 {
-    if (ConfirmDialog::ask("Are you sure you want to quit the game?"))
+    if (GameDialog::confirm("Are you sure you want to quit the game?"))
         ModuleManager::instance().shutdown();
 }

@@ -2,9 +2,9 @@
 
 #include "fighters/Entity_Gym.h"
 #include "fighters/Entity_Manager.h"
-#include "shell/ConfirmDialog.h"
+#include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
-#include "shell/ScreenFactory.h"
+#include "screens/ScreenFactory.h"
 #include "shell/StyleSheetFile.h"
 #include "shell/TopMenuBar.h"
 #include "screens/Module_MainMenu.h"
@@ -18,7 +18,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
@@ -286,15 +285,7 @@ void Module_NewGame::warnOfMissingNations()
     // a screen already left behind has nobody to warn
     if (!isVisible())
         return;
-    auto *warning = new QMessageBox(QMessageBox::Warning, "Orvane",
-                                    "Warning: " + nationFileName
-                                        + " - File not found. Proceeding may cause errors with the game.",
-                                    QMessageBox::Ok, this);
-    warning->setAttribute(Qt::WA_DeleteOnClose);
-    // the game's dialog palette; the warning sign stands free of the text's frame
-    warning->setStyleSheet(ConfirmDialog::styleSheet()
-                           + "QLabel#qt_msgboxex_icon_label { border: none; background: transparent; }");
-    warning->open();
+    GameDialog::inform("Warning: " + nationFileName + " - File not found. Proceeding may cause errors with the game.");
 }
 
 void Module_NewGame::paintEvent(QPaintEvent *)

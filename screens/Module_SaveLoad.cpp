@@ -2,9 +2,9 @@
 
 #include "persistence/SaveFile.h"
 #include "screens/Module_MainMenu.h"
-#include "shell/MessageDialog.h"
+#include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
-#include "shell/ScreenFactory.h"
+#include "screens/ScreenFactory.h"
 #include "shell/StyleSheetFile.h"
 #include "shell/TopMenuBar.h"
 
@@ -42,7 +42,7 @@ Module_SaveLoad::Module_SaveLoad(QWidget *parent)
     , loadButton(pushButton("Load"))
     , deleteButton(pushButton("Delete"))
     , mainMenuButton(pushButton("Back to Main Menu"))
-    , message(new MessageDialog(this))
+    , message(new GameDialog(this))
     , grid(new QGridLayout(this))
 {
     nameEdit->setObjectName("nameEdit");
@@ -116,12 +116,12 @@ void Module_SaveLoad::saveData()
 {
     const QString name = nameEdit->text();
     if (name.isEmpty()) {
-        message->tell("Please specify a file name for your save.", MessageDialog::CancelButton);
+        message->tell("Please specify a file name for your save.", GameDialog::CancelButton);
         return;
     }
     QString refusal;
     if (!SaveFile::isValidName(name, &refusal)) {
-        message->tell(refusal, MessageDialog::CancelButton);
+        message->tell(refusal, GameDialog::CancelButton);
         return;
     }
     // the game is written whole to a side file and only then takes the name, so a question
@@ -130,23 +130,23 @@ void Module_SaveLoad::saveData()
     if (!message->ask(overwrite ? "That file already exists. Overwrite?" : "Save as " + quoted(name) + "?"))
         return;
     if (!SaveFile::save(name, &refusal)) {
-        message->tell(errorOpening(name), MessageDialog::CancelButton);
+        message->tell(errorOpening(name), GameDialog::CancelButton);
         return;
     }
     refreshList();
     nameEdit->clear();
-    message->tell("File saved successfully.", MessageDialog::AcceptButton);
+    message->tell("File saved successfully.", GameDialog::AcceptButton);
 }
 
 void Module_SaveLoad::loadData()
 {
     const QString name = chosenName();
     if (saveList->count() == 0) {
-        message->tell("Please specify a file to load.", MessageDialog::CancelButton);
+        message->tell("Please specify a file to load.", GameDialog::CancelButton);
         return;
     }
     if (!SaveFile::canOpen(name)) {
-        message->tell(errorOpening(name), MessageDialog::CancelButton);
+        message->tell(errorOpening(name), GameDialog::CancelButton);
         return;
     }
     if (!message->ask("Load " + quoted(name) + "?"))
@@ -155,10 +155,10 @@ void Module_SaveLoad::loadData()
     QString refusal;
     if (!SaveFile::load(name, &refusal)) {
         message->tell("The file " + SaveFile::pathOf(name) + " could not be read.\n" + refusal,
-                      MessageDialog::CancelButton);
+                      GameDialog::CancelButton);
         return;
     }
-    message->tell("File loaded successfully.", MessageDialog::AcceptButton);
+    message->tell("File loaded successfully.", GameDialog::AcceptButton);
     ModuleManager::instance().showTopMenu();
     ModuleManager::instance().changeModule(ScreenFactory::build(TopMenuBar::Profile));
 }
@@ -167,7 +167,7 @@ void Module_SaveLoad::deleteData()
 {
     const QString name = chosenName();
     if (saveList->count() == 0) {
-        message->tell("Please specify a file to delete.", MessageDialog::CancelButton);
+        message->tell("Please specify a file to delete.", GameDialog::CancelButton);
         return;
     }
     if (!message->ask("Are you sure you want to delete " + quoted(name) + "?"))
@@ -175,12 +175,12 @@ void Module_SaveLoad::deleteData()
     QString refusal;
     if (!SaveFile::remove(name, &refusal)) {
         message->tell("The file " + SaveFile::pathOf(name) + " could not be deleted.\n" + refusal,
-                      MessageDialog::CancelButton);
+                      GameDialog::CancelButton);
         return;
     }
     refreshList();
     nameEdit->clear();
-    message->tell("File deleted successfully.", MessageDialog::AcceptButton);
+    message->tell("File deleted successfully.", GameDialog::AcceptButton);
 }
 
 void Module_SaveLoad::backToMainMenu()

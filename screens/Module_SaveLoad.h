@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class MessageDialog;
+class GameDialog;
 class QGridLayout;
 class QLineEdit;
 class QListWidget;
@@ -39,6 +39,6 @@ private:
     QPushButton *loadButton;
     QPushButton *deleteButton;
     QPushButton *mainMenuButton;
-    MessageDialog *message;
+    GameDialog *message;
     QGridLayout *grid;
 };

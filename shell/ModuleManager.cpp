@@ -1,6 +1,5 @@
 #include "shell/ModuleManager.h"
 
-#include "screens/Module_MainMenu.h"
 #include "shell/StyleSheetFile.h"
 #include "shell/TopMenuBar.h"
 
@@ -13,15 +12,16 @@ ModuleManager &ModuleManager::instance()
     return *manager;
 }
 
-void ModuleManager::initialize()
+void ModuleManager::initialize(const ScreenBuilders &screenBuilders)
 {
+    builders = screenBuilders;
     window = new QWidget;
     layout = new QVBoxLayout;
     window->setFixedSize(1100, 700);
     window->setWindowTitle("Orvane - by Quillan Dray");
     window->setVisible(true);
 
-    module = new Module_MainMenu;
+    module = builders.mainMenu();
     menu = new TopMenuBar;
     applyStyleSheet();
     hideTopMenu();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/ScreenBuilders.h"
+
 #include <QWidget>
 
 class QVBoxLayout;
@@ -14,7 +16,9 @@ class ModuleManager : public QWidget
 public:
     static ModuleManager &instance();
 
-    void initialize();
+    // the window with the main menu; the screens come from `screenBuilders`
+    void initialize(const ScreenBuilders &screenBuilders);
+    const ScreenBuilders &screens() const { return builders; }
     // destroys the current module and shows `module`, taking it over
     void changeModule(QWidget *module);
     void applyStyleSheet();
@@ -37,4 +41,5 @@ private:
     QVBoxLayout *layout = nullptr;
     QWidget *module = nullptr;
     TopMenuBar *menu = nullptr;
+    ScreenBuilders builders;
 };

@@ -1,9 +1,7 @@
 #include "shell/TopMenuBar.h"
 
-#include "screens/Module_MainMenu.h"
-#include "shell/ConfirmDialog.h"
+#include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
-#include "shell/ScreenFactory.h"
 #include "shell/StyleSheetFile.h"
 #include "world/GameManager.h"
 
@@ -80,17 +78,42 @@ void TopMenuBar::changeScreen(ButtonID id)
 {
     flattenButtons(id);
     screen = id;
-    ModuleManager::instance().changeModule(ScreenFactory::build(id));
+    ModuleManager &shell = ModuleManager::instance();
+    shell.changeModule(shell.screens().button(id));
 }
 
-void TopMenuBar::changeScreenProfile() { changeScreen(Profile); }
-void TopMenuBar::changeScreenTraining() { changeScreen(Training); }
-void TopMenuBar::changeScreenManagement() { changeScreen(Management); }
-void TopMenuBar::changeScreenEvents() { changeScreen(Events); }
-void TopMenuBar::changeScreenDatabase() { changeScreen(Database); }
-void TopMenuBar::changeScreenOrgs() { changeScreen(Orgs); }
-void TopMenuBar::changeScreenSaveLoad() { changeScreen(SaveLoad); }
-void TopMenuBar::changeScreenHelp() { changeScreen(Help); }
+void TopMenuBar::changeScreenProfile()
+{
+    changeScreen(Profile);
+}
+void TopMenuBar::changeScreenTraining()
+{
+    changeScreen(Training);
+}
+void TopMenuBar::changeScreenManagement()
+{
+    changeScreen(Management);
+}
+void TopMenuBar::changeScreenEvents()
+{
+    changeScreen(Events);
+}
+void TopMenuBar::changeScreenDatabase()
+{
+    changeScreen(Database);
+}
+void TopMenuBar::changeScreenOrgs()
+{
+    changeScreen(Orgs);
+}
+void TopMenuBar::changeScreenSaveLoad()
+{
+    changeScreen(SaveLoad);
+}
+void TopMenuBar::changeScreenHelp()
+{
+    changeScreen(Help);
+}
 
 void TopMenuBar::changeScreenNextDay()
 {
@@ -99,21 +122,23 @@ void TopMenuBar::changeScreenNextDay()
     // a day never passes while one of the user's events of today stands unplayed: each fight
     // night comes back here when it is over, until none is left and the rest of the day runs
     const QList<Entity_Event> userEvents = GameManager::instance().todaysUserEvents();
-    ModuleManager::instance().changeModule(userEvents.isEmpty() ? ScreenFactory::buildNextDay()
-                                                                : ScreenFactory::buildFightNight(userEvents.first()));
+    const ScreenBuilders &screens = ModuleManager::instance().screens();
+    ModuleManager::instance().changeModule(userEvents.isEmpty() ? screens.nextDay()
+                                                                : screens.fightNight(userEvents.first()));
 }
 
 void TopMenuBar::changeScreenMainMenu()
 {
-    if (!ConfirmDialog::ask("Are you sure you want to return to the main menu? \nAny unsaved progress will be lost."))
+    if (!GameDialog::confirm("Are you sure you want to return to the main menu? \nAny unsaved progress will be lost."))
         return;
     ModuleManager::instance().hideTopMenu();
     GameManager::instance().resetWorld();
-    ModuleManager::instance().changeModule(new Module_MainMenu);
+    ModuleManager::instance().changeModule(ModuleManager::instance().screens().mainMenu());
 }
 
 void TopMenuBar::returnToCurrentScreen()
 {
     const bool plainScreen = screen >= Profile && screen <= Help && screen != NextDay;
-    ModuleManager::instance().changeModule(ScreenFactory::build(plainScreen ? ButtonID(screen) : Profile));
+    ModuleManager &shell = ModuleManager::instance();
+    shell.changeModule(shell.screens().button(plainScreen ? ButtonID(screen) : Profile));
 }

@@ -9,7 +9,6 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
@@ -45,8 +44,7 @@ private:
     void answer(QDialog *dialog)
     {
         Seen shown;
-        auto *box = qobject_cast<QMessageBox *>(dialog);
-        shown.text = box ? box->text() : dialog->findChild<QLabel *>()->text();
+        shown.text = dialog->findChild<QLabel *>()->text();
         const QString wanted = presses.isEmpty() ? QString() : presses.takeFirst();
         QPushButton *pressed = nullptr;
         for (QPushButton *button : dialog->findChildren<QPushButton *>()) {

@@ -3,7 +3,7 @@
 #include "fighters/Entity_Gym.h"
 #include "screens/Module_MainMenu.h"
 #include "screens/Module_NewGame.h"
-#include "shell/ScreenFactory.h"
+#include "screens/ScreenFactory.h"
 #include "shell/TopMenuBar.h"
 
 #include <QComboBox>
@@ -77,7 +77,7 @@ private slots:
         paintPicture("Resources/Flags/flag_Japan.png", Qt::green);
         paintPicture("Resources/Shorts/gym_shorts_Dark Blue.jpg", Qt::darkBlue);
         paintPicture("Resources/Trim/gym_trim_Gold.png", Qt::transparent, Qt::yellow);
-        ModuleManager::instance().initialize();
+        ModuleManager::instance().initialize(ScreenFactory::builders());
     }
 
     void init()

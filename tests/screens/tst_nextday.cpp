@@ -1,3 +1,4 @@
+#include "screens/ScreenFactory.h"
 #include "screens/ScreenTestKit.h"
 #include "world/WorldSamples.h"
 
@@ -51,7 +52,7 @@ private slots:
     {
         QVERIFY(root.isValid());
         QDir::setCurrent(root.path());
-        ModuleManager::instance().initialize();
+        ModuleManager::instance().initialize(ScreenFactory::builders());
         Random::useTestClock(3);
     }
 

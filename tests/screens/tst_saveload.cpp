@@ -1,3 +1,4 @@
+#include "screens/ScreenFactory.h"
 #include "screens/ScreenTestKit.h"
 
 #include "screens/Module_MainMenu.h"
@@ -97,7 +98,7 @@ private slots:
     {
         QVERIFY(root.isValid());
         QDir::setCurrent(root.path());
-        ModuleManager::instance().initialize();
+        ModuleManager::instance().initialize(ScreenFactory::builders());
     }
 
     void cleanup()

@@ -1,7 +1,9 @@
 #include "common/DialogAnswer.h"
 #include "screens/Module_MainMenu.h"
+#include "screens/ScreenFactory.h"
 #include "shell/ModuleManager.h"
 #include "shell/TopMenuBar.h"
+#include "world/Entity_Event.h"
 #include "world/GameManager.h"
 
 #include <QLabel>
@@ -31,7 +33,7 @@ private slots:
         // the game runs beside its Resources; here a bare folder shows that nothing is required
         QVERIFY(bare.isValid());
         QDir::setCurrent(bare.path());
-        ModuleManager::instance().initialize();
+        ModuleManager::instance().initialize(ScreenFactory::builders());
     }
 
     void windowIsFixedAndTitled()
@@ -104,6 +106,29 @@ private slots:
         QVERIFY(cancel.question.startsWith("Are you sure you want to return to the main menu? "));
         QVERIFY(ModuleManager::instance().isTopMenuVisible());
         ModuleManager::instance().hideTopMenu();
+    }
+
+    // every screen still being built leads back where the player came from
+    void placeholdersLeadBack()
+    {
+        ModuleManager &shell = ModuleManager::instance();
+        menuButton("How To Play")->click();
+        QVERIFY(!qobject_cast<Module_MainMenu *>(shell.currentModule()));
+        menuButton("Back to Main Menu")->click();
+        QVERIFY(qobject_cast<Module_MainMenu *>(shell.currentModule()));
+        QVERIFY(!shell.isTopMenuVisible());
+
+        // in a running game the fight night's stand-in goes back to the screen last chosen
+        shell.showTopMenu();
+        shell.topMenu()->changeScreenTraining();
+        shell.hideTopMenu();
+        shell.changeModule(shell.screens().fightNight(Entity_Event()));
+        menuButton("Back")->click();
+        QVERIFY(shell.isTopMenuVisible());
+        QCOMPARE(shell.topMenu()->currentScreen(), int(TopMenuBar::Training));
+        QVERIFY(menuButton("Back"));
+        shell.hideTopMenu();
+        shell.changeModule(new Module_MainMenu);
     }
 
     // the last test: the accepted question ends the event loop with 0

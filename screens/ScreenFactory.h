@@ -1,16 +1,20 @@
 #pragma once
 
+#include "shell/ScreenBuilders.h"
+
 class Entity_Event;
 class QWidget;
 
-// Builds the screen behind each button of the top menu, anew each time it is shown.
+// Builds each screen of the game, anew each time it is shown.
 class ScreenFactory
 {
 public:
+    // all of them, for the shell
+    static ScreenBuilders builders();
+
     // the screen of a plain button (TopMenuBar::ButtonID); anything else builds the profile
     static QWidget *build(int buttonId);
-    // the rest of the day, once the user's own events of today are fought
+    static QWidget *buildMainMenu();
     static QWidget *buildNextDay();
-    // the fight night of one of the user's events of today
     static QWidget *buildFightNight(const Entity_Event &event);
 };
