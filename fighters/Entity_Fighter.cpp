@@ -1,5 +1,6 @@
 #include "fighters/Entity_Fighter.h"
 
+#include "fighters/GameLists.h"
 #include "fighters/ResultEntry.h"
 
 #include "fighters/StreamForm.h"
@@ -75,8 +76,8 @@ void Entity_Fighter::clampAttributes()
 
 bool Entity_Fighter::operator==(const Entity_Fighter &other) const
 {
-    return texts == other.texts && birthDate == other.birthDate && careerHistory == other.careerHistory
-        && titles == other.titles && numbers == other.numbers;
+    return texts == other.texts && birthDate == other.birthDate && careerHistory == other.careerHistory &&
+           titles == other.titles && numbers == other.numbers;
 }
 
 QDataStream &operator<<(QDataStream &out, const Entity_Fighter &fighter)
@@ -134,8 +135,9 @@ qsizetype openReign(const QStringList &titles, const QString &title)
 // a won earlier round of a tournament costs no fight: he fights on under the same contract entry
 bool usesUpContractOnWin(const QString &matchType)
 {
-    return matchType == QLatin1String("Single Match") || matchType == QLatin1String("Championship Match")
-        || matchType == QLatin1String("Tournament Final");
+    return matchType == QLatin1String(GameLists::SingleMatch) ||
+           matchType == QLatin1String(GameLists::ChampionshipMatch) ||
+           matchType == QLatin1String(GameLists::TournamentFinal);
 }
 
 } // namespace

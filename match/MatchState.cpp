@@ -1,13 +1,10 @@
 #include "match/MatchState.h"
 
+#include "fighters/GameLists.h"
 #include "match/Entity_MatchFighter.h"
 #include "match/MatchManager.h"
 
 #include <QStringList>
-
-namespace {
-const QStringList styleNames = {"Outfighter", "Infighter", "Clincher", "Puncher", "Kicker", "Brawler", "Tactician"};
-}
 
 MatchState::MatchState(const Entity_MatchFighter &fighter)
     : integers(fighter.integerList())
@@ -17,7 +14,7 @@ MatchState::MatchState(const Entity_MatchFighter &fighter)
 
 int MatchState::styleIndexOf(const QString &style)
 {
-    return int(styleNames.indexOf(style));
+    return int(GameLists::fightingStyles().indexOf(style));
 }
 
 MatchManager &MatchState::match()
@@ -36,8 +33,8 @@ int MatchState::score(const ScoreFormula &f, Dice &dice) const
     const bool drive = f.shape == ScoreShape::Drive || f.shape == ScoreShape::DriveDamped;
     const int firstDice = 2 * dice.d(50);
     const int secondDice = 2 * dice.d(50);
-    const int numerator = drive ? a + b + firstDice + c + d + secondDice
-                                : (200 - a - b + firstDice) + (200 - c - d + secondDice);
+    const int numerator =
+        drive ? a + b + firstDice + c + d + secondDice : (200 - a - b + firstDice) + (200 - c - d + secondDice);
     const bool sharp = f.shape == ScoreShape::Drive || f.shape == ScoreShape::RestraintSharp;
     const int divisor = sharp ? (100 - k) / 10 + 1 : k / 10 + 1;
     return numerator / nonZero(divisor);
@@ -59,14 +56,16 @@ void MatchState::recoveryRoll(Entity_MatchFighter &fighter, Dice &dice) const
     if (fighter.getTactic() != TacticDazed && fighter.getTactic() != TacticStunned)
         return;
     const int roll = dice.u(100) + dice.u(100) + dice.u(100);
-    if (roll < number(Entity_Fighter::Willpower) + number(Entity_Fighter::Aggression) + number(Entity_Fighter::Discipline))
+    if (roll <
+        number(Entity_Fighter::Willpower) + number(Entity_Fighter::Aggression) + number(Entity_Fighter::Discipline))
         fighter.setTactic(TacticNormal);
 }
 
 void MatchState::shakeRoll(Entity_MatchFighter &fighter, Dice &dice, int damage) const
 {
     const int roll = dice.u(100) + dice.u(100) + dice.u(100);
-    const int nerve = number(Entity_Fighter::Willpower) + number(Entity_Fighter::Aggression) + number(Entity_Fighter::Discipline);
+    const int nerve =
+        number(Entity_Fighter::Willpower) + number(Entity_Fighter::Aggression) + number(Entity_Fighter::Discipline);
     if (nerve <= 3 * damage + roll)
         fighter.setTactic(TacticStunned);
 }

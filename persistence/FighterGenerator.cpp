@@ -1,4 +1,5 @@
 #include "persistence/FighterGenerator.h"
+#include "fighters/GameLists.h"
 
 #include "fighters/Entity_Gym.h"
 #include "fighters/Entity_Manager.h"
@@ -40,34 +41,6 @@ int placeIn(const QStringList &list, const QString &entry)
 }
 
 } // namespace
-
-const QStringList &FighterGenerator::backgrounds()
-{
-    static const QStringList list = {"Kickboxing", "Shootboxing", "Muay Thai", "Boxing", "Taekwondo", "MMA", "Karate"};
-    return list;
-}
-
-const QStringList &FighterGenerator::styles()
-{
-    // a style stands at the place of the background that it comes from
-    static const QStringList list = {"Outfighter", "Infighter", "Clincher", "Puncher",
-                                     "Kicker",     "Brawler",   "Tactician"};
-    return list;
-}
-
-const QStringList &FighterGenerator::colours()
-{
-    static const QStringList list = {"Black",  "Blue",  "Dark Blue",    "Dark Green", "Dark Red",
-                                     "Gold",   "Green", "Light Yellow", "Purple",     "Red",
-                                     "Silver", "Teal",  "White",        "Yellow"};
-    return list;
-}
-
-const QStringList &FighterGenerator::hairColours()
-{
-    static const QStringList list = {"Black", "Blond", "Brown", "Red"};
-    return list;
-}
 
 FighterGenerator::Origin FighterGenerator::anyNationOf(const NationTable::Lists &lists, int region)
 {
@@ -112,9 +85,9 @@ FighterGenerator::Names FighterGenerator::readNames(const QString &path)
         }))
         names = {};
     if (names.first.isEmpty())
-        names.first = QStringList{"N/A"};
+        names.first = QStringList{GameLists::NoRecord};
     if (names.last.isEmpty())
-        names.last = QStringList{"N/A"};
+        names.last = QStringList{GameLists::NoRecord};
     return names;
 }
 
@@ -168,23 +141,24 @@ Entity_Fighter FighterGenerator::makePerson(const Origin &origin, const QString 
     const int b = qrand() % 25;
     QString background;
     if (b < 7)
-        background = backgrounds().at(b);
+        background = GameLists::backgrounds().at(b);
     else
-        background = recipe.forGym ? recipe.gymStyle : pick(backgrounds());
+        background = recipe.forGym ? recipe.gymStyle : pick(GameLists::backgrounds());
     man.setText(F::FightingBackground, background);
     // otherwise the style that his background teaches: Kickboxing an Outfighter, and so on
     const int s = qrand() % 15;
-    man.setText(F::FightingStyle, styles().at(s < 7 ? s : placeIn(backgrounds(), background)));
+    man.setText(F::FightingStyle,
+                GameLists::fightingStyles().at(s < 7 ? s : placeIn(GameLists::backgrounds(), background)));
     man.setText(F::Organisation, "Free Agent");
     man.setText(F::Reputation, "Unknown");
     if (recipe.forGym) {
         man.setText(F::ShortsColour, recipe.gymShorts);
         man.setText(F::TrimColour, recipe.gymTrim);
     } else {
-        man.setText(F::ShortsColour, pick(colours()));
-        man.setText(F::TrimColour, pick(colours()));
+        man.setText(F::ShortsColour, pick(GameLists::kitColours()));
+        man.setText(F::TrimColour, pick(GameLists::kitColours()));
     }
-    man.setText(F::HairColour, pick(hairColours()));
+    man.setText(F::HairColour, pick(GameLists::hairColours()));
 
     int quality = qualityBonus(qrand() % 71);
     int grade = recipe.grade;

@@ -62,9 +62,4 @@ public:
 
     // the full names of every man of the world and the gym
     static QSet<QString> takenNames(const GameManager &game);
-
-    static const QStringList &backgrounds();
-    static const QStringList &styles();
-    static const QStringList &colours();
-    static const QStringList &hairColours();
 };

@@ -2,15 +2,16 @@
 
 #include "fighters/Entity_Gym.h"
 #include "fighters/Entity_Manager.h"
-#include "shell/GameDialog.h"
-#include "shell/ModuleManager.h"
-#include "screens/ScreenFactory.h"
-#include "shell/StyleSheetFile.h"
-#include "shell/TopMenuBar.h"
-#include "screens/Module_MainMenu.h"
-#include "world/GameManager.h"
+#include "fighters/GameLists.h"
 #include "persistence/DefaultFiles.h"
 #include "persistence/NationTable.h"
+#include "screens/Module_MainMenu.h"
+#include "screens/ScreenFactory.h"
+#include "shell/GameDialog.h"
+#include "shell/ModuleManager.h"
+#include "shell/StyleSheetFile.h"
+#include "shell/TopMenuBar.h"
+#include "world/GameManager.h"
 
 #include <QComboBox>
 #include <QFrame>
@@ -44,28 +45,18 @@ constexpr int GroupsPerPanel = 2;
 constexpr int PanelCount = int(skillGroups.size()) / GroupsPerPanel;
 constexpr int TopSkillLevel = 10;
 
-constexpr std::array<const char *, 7> signatureStyles{"Shootboxing", "Kickboxing", "Boxing", "Taekwondo",
-                                                       "Muay Thai",   "MMA",        "Karate"};
+// the signature styles as the box offers them: places in the list of backgrounds
+constexpr std::array<int, 7> signatureStyleOrder{1, 0, 3, 4, 2, 5, 6};
 
-constexpr std::array<const char *, 14> kitColours{"Black", "Blue",         "Dark Blue", "Dark Green", "Dark Red",
-                                                   "Gold",  "Green",        "Light Yellow", "Purple",  "Red",
-                                                   "Silver", "Teal",        "White",     "Yellow"};
+QStringList signatureStyles()
+{
+    QStringList styles;
+    for (int place : signatureStyleOrder)
+        styles << GameLists::backgrounds().at(place);
+    return styles;
+}
 
 const QString nationFileName = QStringLiteral("./Resources/Defaults/default_nations.dat");
-
-QStringList textList(const char *const *begin, const char *const *end)
-{
-    QStringList list;
-    for (auto it = begin; it != end; ++it)
-        list << QString::fromLatin1(*it);
-    return list;
-}
-
-template <std::size_t N>
-QStringList textList(const std::array<const char *, N> &table)
-{
-    return textList(table.data(), table.data() + N);
-}
 
 QLabel *headingLabel(const QString &text)
 {
@@ -238,9 +229,9 @@ QWidget *Module_NewGame::buildGymPage()
     auto *column = new QVBoxLayout(page);
 
     gymNameEdit = lineEdit("gymNameEdit");
-    styleBox = comboBox("styleBox", textList(signatureStyles));
-    primaryColourBox = comboBox("primaryColourBox", textList(kitColours));
-    secondaryColourBox = comboBox("secondaryColourBox", textList(kitColours));
+    styleBox = comboBox("styleBox", signatureStyles());
+    primaryColourBox = comboBox("primaryColourBox", GameLists::kitColours());
+    secondaryColourBox = comboBox("secondaryColourBox", GameLists::kitColours());
     emblemLabel = new QLabel;
     emblemLabel->setObjectName("emblemLabel");
     emblemLabel->setFixedSize(250, 250);

@@ -1,9 +1,10 @@
 #include "world/Entity_Booking.h"
 
+#include "fighters/GameLists.h"
 #include "fighters/StreamForm.h"
 
 namespace {
-constexpr const char *Empty = "N/A";
+constexpr const char *Empty = GameLists::NoRecord;
 } // namespace
 
 Entity_Booking::Entity_Booking()

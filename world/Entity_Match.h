@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fighters/GameLists.h"
+
 #include <QDataStream>
 #include <QString>
 #include <QStringList>
@@ -10,12 +12,12 @@ class Entity_Match
 {
 public:
     // the match types, as the rules read them
-    static constexpr const char *SingleMatch = "Single Match";
-    static constexpr const char *ChampionshipMatch = "Championship Match";
-    static constexpr const char *TournamentQualifier = "Tournament Qualifier";
-    static constexpr const char *TournamentQuarterfinal = "Tournament Quarterfinal";
-    static constexpr const char *TournamentSemifinal = "Tournament Semifinal";
-    static constexpr const char *TournamentFinal = "Tournament Final";
+    static constexpr const char *SingleMatch = GameLists::SingleMatch;
+    static constexpr const char *ChampionshipMatch = GameLists::ChampionshipMatch;
+    static constexpr const char *TournamentQualifier = GameLists::TournamentQualifier;
+    static constexpr const char *TournamentQuarterfinal = GameLists::TournamentQuarterfinal;
+    static constexpr const char *TournamentSemifinal = GameLists::TournamentSemifinal;
+    static constexpr const char *TournamentFinal = GameLists::TournamentFinal;
     // the name of an open place
     static constexpr const char *OpenPlace = "TBA";
     static constexpr int TextCount = 4;

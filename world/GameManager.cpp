@@ -2,6 +2,7 @@
 
 #include "fighters/Entity_Gym.h"
 #include "fighters/Entity_Manager.h"
+#include "fighters/GameLists.h"
 #include "fighters/ResultEntry.h"
 #include "fighters/StreamForm.h"
 #include "world/BookingRound.h"
@@ -13,7 +14,7 @@
 
 namespace {
 
-constexpr const char *NoRecord = "N/A";
+constexpr const char *NoRecord = GameLists::NoRecord;
 const QDate noBirthDate(2000, 1, 1);
 
 // what the screens show for a place that holds nobody

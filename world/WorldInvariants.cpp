@@ -1,5 +1,7 @@
 #include "world/WorldInvariants.h"
 
+#include "fighters/GameLists.h"
+
 #include "world/GameManager.h"
 
 #include <QHash>
@@ -76,7 +78,7 @@ void WorldInvariants::checkBookings(const GameManager &world, QStringList &fault
             faults << QString("%1 has %2 booking records").arg(man.fullName()).arg(records);
     }
     for (const Entity_Booking &booking : world.bookings) {
-        if (!booking.hasDate() || booking.eventName() == "N/A")
+        if (!booking.hasDate() || booking.eventName() == QLatin1String(GameLists::NoRecord))
             continue;
         const QList<Entity_Org> &organisations = world.organisations;
         const bool nightExists = std::any_of(organisations.cbegin(), organisations.cend(), [&](const Entity_Org &o) {

@@ -1,3 +1,4 @@
+#include "fighters/GameLists.h"
 #include "fighters/StreamForm.h"
 
 #include <QDataStream>
@@ -13,9 +14,8 @@
 // folder the tests run in.
 namespace {
 
-const QStringList kitColours{"Black",        "Blue",   "Dark Blue", "Dark Green", "Dark Red", "Gold",  "Green",
-                             "Light Yellow", "Purple", "Red",       "Silver",     "Teal",     "White", "Yellow"};
-const QStringList hairColours{"Black", "Blond", "Brown", "Red"};
+const QStringList &kitColours = GameLists::kitColours();
+const QStringList &hairColours = GameLists::hairColours();
 const QStringList organisations{
     "G-1",           "Genesis",   "King's Stadium", "GKO",         "EPIC",     "Ironheart FC",     "Red Storm Global",
     "Albion FC",     "Dubai FC",  "Santa Maria FC", "Valhalla",    "Tie Long", "Pomwaree Stadium", "Kings Of Rio",

@@ -1,6 +1,7 @@
 #include "PersistenceKit.h"
 
 #include "fighters/FighterTraits.h"
+#include "fighters/GameLists.h"
 #include "fighters/Random.h"
 #include "persistence/DataFile.h"
 #include "persistence/DefaultFiles.h"
@@ -359,8 +360,8 @@ private slots:
             QCOMPARE(strings[F::TrimColour], QString("Black"));
             QCOMPARE(strings[F::Organisation], QString("Free Agent"));
             QCOMPARE(strings[F::Reputation], QString("Unknown"));
-            QVERIFY(FighterGenerator::backgrounds().contains(strings[F::FightingBackground]));
-            QVERIFY(FighterGenerator::styles().contains(strings[F::FightingStyle]));
+            QVERIFY(GameLists::backgrounds().contains(strings[F::FightingBackground]));
+            QVERIFY(GameLists::fightingStyles().contains(strings[F::FightingStyle]));
             QCOMPARE(integers[F::Age], 18);
             QCOMPARE(integers[F::RankingScore], 8000);
             QCOMPARE(integers[F::ContractFightsLeft], 0);
@@ -386,9 +387,9 @@ private slots:
         const QList<F> agents = freeAgents();
         QCOMPARE(agents.size(), 100);
         for (const F &man : agents) {
-            QVERIFY(FighterGenerator::colours().contains(man.text(F::ShortsColour)));
-            QVERIFY(FighterGenerator::colours().contains(man.text(F::TrimColour)));
-            QVERIFY(FighterGenerator::hairColours().contains(man.text(F::HairColour)));
+            QVERIFY(GameLists::kitColours().contains(man.text(F::ShortsColour)));
+            QVERIFY(GameLists::kitColours().contains(man.text(F::TrimColour)));
+            QVERIFY(GameLists::hairColours().contains(man.text(F::HairColour)));
             QVERIFY(man.number(F::BodyImage) >= 1 && man.number(F::BodyImage) <= 21);
             QVERIFY(man.number(F::HeadImage) >= 1 && man.number(F::HeadImage) <= 7);
             QVERIFY(man.number(F::FaceImage) >= 1 && man.number(F::FaceImage) <= 4);

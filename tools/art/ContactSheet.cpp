@@ -1,4 +1,5 @@
 #include "ContactSheet.h"
+#include "fighters/GameLists.h"
 
 #include "fighters/Random.h"
 
@@ -10,9 +11,8 @@
 
 namespace {
 
-const QStringList kitColours{"Black",        "Blue",   "Dark Blue", "Dark Green", "Dark Red", "Gold",  "Green",
-                             "Light Yellow", "Purple", "Red",       "Silver",     "Teal",     "White", "Yellow"};
-const QStringList hairColours{"Black", "Blond", "Brown", "Red"};
+const QStringList &kitColours = GameLists::kitColours();
+const QStringList &hairColours = GameLists::hairColours();
 
 // the portrait as the game draws it: six pictures over one another
 QImage portrait(const QString &r, int body, int head, int face, const QString &hair, const QString &shorts,

@@ -1,4 +1,5 @@
 #include "SourceData.h"
+#include "fighters/GameLists.h"
 
 #include "world/Entity_Match.h"
 #include "world/OrgTable.h"
@@ -294,7 +295,7 @@ void SourceData::readOrganisation(const QString &path, int index)
     if (weight != 100)
         fault(path, QString("the origins weigh %1, not 100").arg(weight));
     for (const auto &[background, share] : std::as_const(org.backgrounds))
-        if (!FighterGenerator::backgrounds().contains(background) || share < 0 || share > 100)
+        if (!GameLists::backgrounds().contains(background) || share < 0 || share > 100)
             fault(path, "\"" + background + "\" is no fighting background of a share up to 100");
     if (!org.championship.isEmpty() && !org.championship.contains("World Championship"))
         fault(path, "a lasting title holds \"World Championship\"");

@@ -1,5 +1,6 @@
 // Reports what a match of the world costs in the engine: three rounds of steps and ticks, or
 // fewer when a man is stopped, with the commentary kept in a buffer as the day flow keeps it.
+#include "fighters/GameLists.h"
 #include "fighters/Random.h"
 #include "match/CommentaryBuffer.h"
 #include "match/MatchManager.h"
@@ -10,7 +11,7 @@
 
 namespace {
 
-const QStringList styles = {"Outfighter", "Infighter", "Clincher", "Puncher", "Kicker", "Brawler", "Tactician"};
+const QStringList &styles = GameLists::fightingStyles();
 
 Entity_Fighter contender(int id, int seed)
 {
