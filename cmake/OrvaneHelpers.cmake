@@ -8,14 +8,17 @@ function(orvane_sources out)
   set(${out} ${files} PARENT_SCOPE)
 endfunction()
 
-# orvane_test(NAME name SOURCES files... [WIDGETS]): one QtTest executable, registered in CTest
+# orvane_test(NAME name SOURCES files... [WIDGETS]): one QtTest executable, registered in CTest and
+# labelled "screens" when it drives widgets, "core" otherwise, so `ctest -L core` runs the core alone
 function(orvane_test)
   cmake_parse_arguments(T "WIDGETS" "NAME" "SOURCES" ${ARGN})
+  set(T_LABEL core)
   add_executable(${T_NAME} ${T_SOURCES})
   set_target_properties(${T_NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_include_directories(${T_NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   if(T_WIDGETS)
     target_link_libraries(${T_NAME} PRIVATE orvane_ui Qt6::Test)
+    set(T_LABEL screens)
     add_test(NAME ${T_NAME} COMMAND ${T_NAME})
     set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
   else()
