@@ -100,6 +100,7 @@ QDataStream &operator>>(QDataStream &in, Entity_GymFighter &fighter)
 
 // --- Skill levels, match experience and reputation --------------------------------------------
 
+#include "fighters/MatchStatus.h"
 #include "fighters/ReputationScale.h"
 #include "fighters/SkillTable.h"
 
@@ -108,40 +109,37 @@ namespace {
 // what a match adds to a skill's counter: a statistic of the engine, whole or halved
 struct MatchLesson {
     SkillTable::Skill skill;
-    int statistic;
+    MatchStatus::Position statistic;
     bool halved;
 };
 
 // strikes landed, blocks of head and body, dodges of head and body, counters of head and body
 constexpr MatchLesson matchLessons[] = {
-    {SkillTable::Jab, 6, false},
-    {SkillTable::Hook, 8, false},
-    {SkillTable::Cross, 10, false},
-    {SkillTable::Uppercut, 12, false},
-    {SkillTable::LowKick, 14, false},
-    {SkillTable::MidKick, 16, false},
-    {SkillTable::HighKick, 18, false},
-    {SkillTable::FrontKick, 20, false},
-    {SkillTable::Knee, 22, false},
-    {SkillTable::Elbow, 24, false},
-    {SkillTable::DirtyBoxing, 26, false},
-    {SkillTable::BodyPunch, 28, false},
-    {SkillTable::HeadGuard, 30, false},
-    {SkillTable::BodyGuard, 32, false},
-    {SkillTable::LegGuard, 32, true},
-    {SkillTable::DazedGuard, 30, true},
-    {SkillTable::HeadMovement, 34, false},
-    {SkillTable::BodyMovement, 36, false},
-    {SkillTable::Dodge, 34, true},
-    {SkillTable::Agility, 36, true},
-    {SkillTable::Counter, 38, false},
-    {SkillTable::DefensiveAwareness, 40, false},
-    {SkillTable::Focus, 38, true},
-    {SkillTable::Reaction, 40, true},
+    {SkillTable::Jab, MatchStatus::JabLanded, false},
+    {SkillTable::Hook, MatchStatus::HookLanded, false},
+    {SkillTable::Cross, MatchStatus::CrossLanded, false},
+    {SkillTable::Uppercut, MatchStatus::UppercutLanded, false},
+    {SkillTable::LowKick, MatchStatus::LowKickLanded, false},
+    {SkillTable::MidKick, MatchStatus::MidKickLanded, false},
+    {SkillTable::HighKick, MatchStatus::HighKickLanded, false},
+    {SkillTable::FrontKick, MatchStatus::FrontKickLanded, false},
+    {SkillTable::Knee, MatchStatus::KneeLanded, false},
+    {SkillTable::Elbow, MatchStatus::ElbowLanded, false},
+    {SkillTable::DirtyBoxing, MatchStatus::DirtyBoxingLanded, false},
+    {SkillTable::BodyPunch, MatchStatus::BodyPunchLanded, false},
+    {SkillTable::HeadGuard, MatchStatus::HighBlocksMade, false},
+    {SkillTable::BodyGuard, MatchStatus::BodyAndLegBlocksMade, false},
+    {SkillTable::LegGuard, MatchStatus::BodyAndLegBlocksMade, true},
+    {SkillTable::DazedGuard, MatchStatus::HighBlocksMade, true},
+    {SkillTable::HeadMovement, MatchStatus::HighDodgesMade, false},
+    {SkillTable::BodyMovement, MatchStatus::OtherDodgesMade, false},
+    {SkillTable::Dodge, MatchStatus::HighDodgesMade, true},
+    {SkillTable::Agility, MatchStatus::OtherDodgesMade, true},
+    {SkillTable::Counter, MatchStatus::HighCountersMade, false},
+    {SkillTable::DefensiveAwareness, MatchStatus::MidCountersMade, false},
+    {SkillTable::Focus, MatchStatus::HighCountersMade, true},
+    {SkillTable::Reaction, MatchStatus::MidCountersMade, true},
 };
-
-constexpr int KnockdownsGiven = 42;
-constexpr int KnockdownsTaken = 43;
 
 bool onSkillTable(int skill)
 {
@@ -186,7 +184,7 @@ bool Entity_GymFighter::checkLevelDown(int skill, QStringList &report)
 
 void Entity_GymFighter::addMatchExperience(const QList<int> &statistics, const QString &result)
 {
-    int base = statistics.value(KnockdownsGiven) - statistics.value(KnockdownsTaken);
+    int base = statistics.value(MatchStatus::KnockdownsScored) - statistics.value(MatchStatus::KnockdownsTaken);
     const ResultEntry entry(result);
     if (entry.isWin()) {
         base += 5;

@@ -116,23 +116,27 @@ QString Entity_MatchFighter::takeComment()
     return text;
 }
 
+// every strike and every defence of the engine has its places in the status vector
+static_assert(MatchStatus::StrikeCount == Entity_Fighter::StrikeCount);
+static_assert(MatchStatus::DefenceCount == DefencePairCount);
+
 void Entity_MatchFighter::addStrike(int strikeIndex, int landed, int thrown)
 {
     if (strikeIndex < 0 || strikeIndex >= StrikeCount)
         return;
-    strikeStats[2 * strikeIndex] += landed;
-    strikeStats[2 * strikeIndex + 1] += thrown;
+    statistics[MatchStatus::landed(strikeIndex)] += landed;
+    statistics[MatchStatus::thrown(strikeIndex)] += thrown;
 }
 
 void Entity_MatchFighter::addDefence(DefencePair pair, int successful, int tried)
 {
-    defenceStats[2 * pair] += successful;
-    defenceStats[2 * pair + 1] += tried;
+    statistics[MatchStatus::made(pair)] += successful;
+    statistics[MatchStatus::tried(pair)] += tried;
 }
 
 void Entity_MatchFighter::countKnockdown(bool scored)
 {
-    ++(scored ? knockdownsScored : knockdownsTaken);
+    ++statistics[scored ? MatchStatus::KnockdownsScored : MatchStatus::KnockdownsTaken];
 }
 
 // --- health and stamina --------------------------------------------------------------------------
@@ -329,10 +333,12 @@ void Entity_MatchFighter::observations(QStringList &texts, QList<int> &codes) co
 
 QList<int> Entity_MatchFighter::statusVector() const
 {
-    QList<int> status = {tactic, staminaBand, headHealth, bodyHealth, armsHealth, legsHealth};
-    status.append(QList<int>(strikeStats.begin(), strikeStats.end()));
-    status.append(QList<int>(defenceStats.begin(), defenceStats.end()));
-    status.append(knockdownsScored);
-    status.append(knockdownsTaken);
+    QList<int> status(statistics.begin(), statistics.end());
+    status[MatchStatus::Tactic] = tactic;
+    status[MatchStatus::StaminaBand] = staminaBand;
+    status[MatchStatus::HeadHealth] = headHealth;
+    status[MatchStatus::BodyHealth] = bodyHealth;
+    status[MatchStatus::ArmsHealth] = armsHealth;
+    status[MatchStatus::LegsHealth] = legsHealth;
     return status;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fighters/Entity_Fighter.h"
+#include "fighters/MatchStatus.h"
 
 #include <QList>
 #include <QString>
@@ -106,7 +107,8 @@ public:
     void tend(int heal, int water, int motivate, int strategy);
     void observations(QStringList &texts, QList<int> &codes) const;
 
-    // tactic, band, four healths, the twelve strike pairs, the six defence pairs, knockdowns
+    // the 44 numbers of MatchStatus: tactic, band, four healths, the twelve strike pairs, the six
+    // defence pairs, knockdowns
     QList<int> statusVector() const;
 
 private:
@@ -122,8 +124,7 @@ private:
     int maxHead = 0, maxBody = 0, maxArms = 0, maxLegs = 0;
     int headHealth = 1000, bodyHealth = 1000, armsHealth = 1000, legsHealth = 1000;
     int maxStamina = 0, stamina = 0;
-    std::array<int, 2 * StrikeCount> strikeStats{};
-    std::array<int, 2 * DefencePairCount> defenceStats{};
-    int knockdownsScored = 0;
-    int knockdownsTaken = 0;
+    // the counts of strikes, defences and knockdowns at their places of the status vector; the
+    // places before them stand in the members above
+    std::array<int, MatchStatus::Count> statistics{};
 };

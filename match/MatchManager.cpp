@@ -14,23 +14,33 @@ constexpr int RoundSeconds = 180;
 
 struct Method {
     int code;
+    // a technical knockout: the man was worn down rather than knocked out
+    bool technical;
     const char *text;
 };
 
 // how a stoppage is named by the strike that ended it; dirty boxing counts as an uppercut
 constexpr Method methodTable[] = {
-    {EvJab, "KO(Jab)"},           {EvHook, "KO(Hook)"},         {EvCross, "KO(Cross)"},
-    {EvUppercut, "KO(Uppercut)"}, {EvLowKick, "TKO(Low Kick)"}, {EvMidKick, "TKO(Mid Kick)"},
-    {EvHighKick, "KO(High Kick)"}, {EvFrontKick, "TKO(Front Kick)"}, {EvKnee, "KO(Knee)"},
-    {EvElbow, "KO(Elbow)"},       {EvDirtyBox, "KO(Uppercut)"}, {EvBodyPunch, "TKO(Body Punch)"},
+    {EvJab, false, "KO(Jab)"},
+    {EvHook, false, "KO(Hook)"},
+    {EvCross, false, "KO(Cross)"},
+    {EvUppercut, false, "KO(Uppercut)"},
+    {EvLowKick, true, "TKO(Low Kick)"},
+    {EvMidKick, true, "TKO(Mid Kick)"},
+    {EvHighKick, false, "KO(High Kick)"},
+    {EvFrontKick, true, "TKO(Front Kick)"},
+    {EvKnee, false, "KO(Knee)"},
+    {EvElbow, false, "KO(Elbow)"},
+    {EvDirtyBox, false, "KO(Uppercut)"},
+    {EvBodyPunch, true, "TKO(Body Punch)"},
 };
 
-QString methodOf(int code)
+const Method *methodOf(int code)
 {
     for (const Method &row : methodTable)
         if (row.code == code)
-            return QString::fromLatin1(row.text);
-    return QString();
+            return &row;
+    return nullptr;
 }
 
 QString clockText(int seconds)
@@ -168,13 +178,14 @@ QString MatchManager::resultText(int &winnerId, QString &winnerEntry, int &loser
     const QString winnerName = winner->fullName();
     const QString loserName = loser->fullName();
 
-    if (loser->getActionCode() != MatchCodes::KnockedOut) {
+    if (!isStoppage()) {
         winnerEntry += QStringLiteral("Win: ") + loserName + QStringLiteral(" - Decision - Rd. ") + round + QStringLiteral("(3:00)");
         loserEntry += QStringLiteral("Loss: ") + winnerName + QStringLiteral(" - Decision - Rd. ") + round + QStringLiteral("(3:00)");
         return winnerName + QStringLiteral(" defeated ") + loserName + QStringLiteral(" by Decision in 3:00 of Round ")
                + round + QStringLiteral(".");
     }
-    const QString method = methodOf(winner->getActionCode());
+    const Method *row = methodOf(winner->getActionCode());
+    const QString method = row ? QString::fromLatin1(row->text) : QString();
     const QString lineMethod = method.isEmpty() ? QString() : QStringLiteral(" by ") + method + QStringLiteral(" in ");
     const QString entryMethod = method.isEmpty() ? QString() : QStringLiteral(" - ") + method + QStringLiteral(" - ");
     const QString elapsed = clockText(RoundSeconds - roundClock);
@@ -184,6 +195,17 @@ QString MatchManager::resultText(int &winnerId, QString &winnerEntry, int &loser
                   + elapsed + QStringLiteral(")");
     return winnerName + QStringLiteral(" defeated ") + loserName + lineMethod + elapsed + QStringLiteral(" of Round ") + round
            + QStringLiteral(".");
+}
+
+bool MatchManager::isStoppage() const
+{
+    return loser && loser->getActionCode() == MatchCodes::KnockedOut;
+}
+
+bool MatchManager::isTechnicalKnockout() const
+{
+    const Method *row = isStoppage() && winner ? methodOf(winner->getActionCode()) : nullptr;
+    return row && row->technical;
 }
 
 // --- the corner --------------------------------------------------------------------------------

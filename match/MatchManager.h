@@ -13,8 +13,8 @@ class CommentarySink;
 
 // Runs one match at a time: makes the two men, knows who attacks and who defends, steps the
 // attacker's state machine, keeps the clock and the judges' points of the round, and writes the
-// commentary. The day flow and the fight night both drive it; they count the rounds and add up
-// the cards.
+// commentary. A WholeMatch drives it for the day flow and the fight night, counting the rounds
+// and adding up the cards.
 class MatchManager
 {
 public:
@@ -34,6 +34,9 @@ public:
     void decide(int votesOne, int votesTwo);
     // the result line; the entries get the career lines of both men appended
     QString resultText(int &winnerId, QString &winnerEntry, int &loserId, QString &loserEntry) const;
+    // how the match ended: by a stoppage, and among stoppages by a technical knockout
+    bool isStoppage() const;
+    bool isTechnicalKnockout() const;
 
     QStringList instructionsFor(int id) const;
     bool giveInstruction(int id, const QString &text, int value, bool force);

@@ -90,12 +90,12 @@ void DayFlow::fightEvent(Entity_Event event)
     QStringList lines;
     for (int index = 0; index < event.matchCount(); ++index) {
         const WorldMatch::Outcome outcome = WorldMatch::fight(world, event, event.matchAt(index));
-        if (outcome.ending == WorldMatch::Ending::NotFought)
+        if (outcome.ending == WholeMatch::Ending::None)
             continue;
         ++dayTally.matches;
-        dayTally.knockouts += outcome.ending == WorldMatch::Ending::Knockout;
-        dayTally.technicalKnockouts += outcome.ending == WorldMatch::Ending::TechnicalKnockout;
-        dayTally.decisions += outcome.ending == WorldMatch::Ending::Decision;
+        dayTally.knockouts += outcome.ending == WholeMatch::Ending::Knockout;
+        dayTally.technicalKnockouts += outcome.ending == WholeMatch::Ending::TechnicalKnockout;
+        dayTally.decisions += outcome.ending == WholeMatch::Ending::Decision;
         dayTally.titleChanges += outcome.titleChanged;
         if (!outcome.advancingId) {
             lines << outcome.line + '\n';

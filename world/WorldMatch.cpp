@@ -1,17 +1,13 @@
 #include "world/WorldMatch.h"
 
 #include "match/CommentaryBuffer.h"
-#include "match/MatchManager.h"
+#include "match/WholeMatch.h"
 #include "world/Entity_Event.h"
 #include "world/Entity_Match.h"
 #include "world/GameManager.h"
-#include "world/JudgesCards.h"
 #include "world/RankMove.h"
 
 namespace {
-
-// the rounds of a match before the judges first decide
-constexpr int RegularRounds = 3;
 
 // the tournament rounds whose winner goes on to the next round
 constexpr const char *roundsToGoOn[] = {Entity_Match::TournamentQualifier, Entity_Match::TournamentQuarterfinal,
@@ -27,43 +23,7 @@ template <size_t N> bool holdsAny(const QString &line, const char *const (&words
     return false;
 }
 
-// fights the rounds until a stoppage or a verdict; the word of a decision comes back, or an
-// empty word after a stoppage
-QString fightToTheEnd(MatchManager &engine)
-{
-    JudgesCards cards;
-    int roundsFought = 0;
-    engine.beginRound();
-    for (;;) {
-        bool over = engine.step();
-        while (!over && engine.tickClock() > 0)
-            over = engine.step();
-        if (over)
-            return QString();
-        cards.addRound(engine.endRoundScores());
-        ++roundsFought;
-        if (roundsFought >= RegularRounds) {
-            const QString word = JudgesCards::verdict(cards.votesOne(), cards.votesTwo(), roundsFought);
-            if (!word.isEmpty()) {
-                engine.decide(cards.votesOne(), cards.votesTwo());
-                return word;
-            }
-        }
-        engine.nextRound();
-        engine.beginRound();
-    }
-}
-
 } // namespace
-
-WorldMatch::Ending WorldMatch::endingOf(const QString &resultLine)
-{
-    if (resultLine.contains(QLatin1String("Decision")))
-        return Ending::Decision;
-    if (resultLine.contains(QLatin1String(" by TKO(")))
-        return Ending::TechnicalKnockout;
-    return Ending::Knockout;
-}
 
 WorldMatch::Outcome WorldMatch::fight(GameManager &world, const Entity_Event &event, const Entity_Match &match)
 {
@@ -77,41 +37,33 @@ WorldMatch::Outcome WorldMatch::fight(GameManager &world, const Entity_Event &ev
         first.getId() == 0 || second.getId() == 0)
         return outcome;
 
+    // the commentary of a match that nobody watches goes into a buffer all the same
     CommentaryBuffer commentary;
-    MatchManager &engine = MatchManager::instance();
-    engine.startMatch(first, second, &commentary);
-    const QString word = fightToTheEnd(engine);
-
-    QString &winnerEntry = outcome.winnerEntry;
-    QString &loserEntry = outcome.loserEntry;
-    QString result = engine.resultText(outcome.winnerId, winnerEntry, outcome.loserId, loserEntry);
-    if (!word.isEmpty()) {
-        result.replace(QLatin1String("Decision"), word);
-        winnerEntry.replace(QLatin1String("Decision"), word);
-        loserEntry.replace(QLatin1String("Decision"), word);
-    }
+    const WholeMatch::Result fought = WholeMatch::fight(first, second, &commentary);
+    outcome.ending = fought.ending;
+    outcome.winnerId = fought.winnerId;
+    outcome.loserId = fought.loserId;
     const QString where = " - " + orgName + ": " + event.name();
-    winnerEntry += where;
-    loserEntry += where;
+    outcome.winnerEntry = fought.winnerEntry + where;
+    outcome.loserEntry = fought.loserEntry + where;
     const QString matchType = match.matchType();
     if (matchType == QLatin1String(Entity_Match::ChampionshipMatch)) {
-        winnerEntry += '|' + event.title();
-        loserEntry += '|' + event.title();
+        outcome.winnerEntry += '|' + event.title();
+        outcome.loserEntry += '|' + event.title();
     } else if (matchType == QLatin1String(Entity_Match::TournamentFinal)) {
         // the loser of a final takes no title home
-        winnerEntry += '|' + event.title();
+        outcome.winnerEntry += '|' + event.title();
     }
 
     const Entity_Fighter &winner = outcome.winnerId == first.getId() ? first : second;
     const Entity_Fighter &loser = outcome.winnerId == first.getId() ? second : first;
-    const int move = RankMove::forResult(winner.getRankingScore(), loser.getRankingScore(), result);
-    world.recordRosterMatch(orgName, outcome.winnerId, winnerEntry, matchType);
-    world.recordRosterMatch(orgName, outcome.loserId, loserEntry, matchType);
+    const int move = RankMove::forResult(winner.getRankingScore(), loser.getRankingScore(), fought.line);
+    world.recordRosterMatch(orgName, outcome.winnerId, outcome.winnerEntry, matchType);
+    world.recordRosterMatch(orgName, outcome.loserId, outcome.loserEntry, matchType);
     world.addRankingScore(orgName, outcome.loserId, move);
     world.addRankingScore(orgName, outcome.winnerId, -move);
 
-    outcome.ending = endingOf(result);
-    outcome.line = matchType + " - " + result;
+    outcome.line = matchType + " - " + fought.line;
     if (holdsAny(outcome.line, roundsToGoOn)) {
         outcome.advancingId = outcome.winnerId;
     } else if (holdsAny(outcome.line, titleMatches)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "match/WholeMatch.h"
+
 #include <QString>
 
 class Entity_Event;
@@ -12,10 +14,9 @@ class GameManager;
 class WorldMatch
 {
 public:
-    enum class Ending { NotFought, Knockout, TechnicalKnockout, Decision };
-
     struct Outcome {
-        Ending ending = Ending::NotFought;
+        // None when the match was not fought
+        WholeMatch::Ending ending = WholeMatch::Ending::None;
         // the match type, " - " and the result line
         QString line;
         int winnerId = 0;
@@ -31,7 +32,4 @@ public:
     // A slot with an open place, or naming a man whom the roster no longer holds, is not fought
     // and changes nothing.
     static Outcome fight(GameManager &world, const Entity_Event &event, const Entity_Match &match);
-
-    // what a result line says of how the match ended
-    static Ending endingOf(const QString &resultLine);
 };

@@ -1,4 +1,5 @@
 #include "fighters/Entity_GymFighter.h"
+#include "fighters/MatchStatus.h"
 #include "fighters/Random.h"
 #include "fighters/ReputationScale.h"
 #include "fighters/SkillTable.h"
@@ -35,11 +36,13 @@ QString entry(const QString &outcome, const QString &title = {})
 
 QList<int> statistics(int landed, int knockdownsGiven = 0, int knockdownsTaken = 0)
 {
-    QList<int> stats(44, 0);
-    for (int pos = 6; pos <= 40; pos += 2)
-        stats[pos] = landed;
-    stats[42] = knockdownsGiven;
-    stats[43] = knockdownsTaken;
+    QList<int> stats(MatchStatus::Count, 0);
+    for (int strike = 0; strike < MatchStatus::StrikeCount; ++strike)
+        stats[MatchStatus::landed(strike)] = landed;
+    for (int defence = 0; defence < MatchStatus::DefenceCount; ++defence)
+        stats[MatchStatus::made(defence)] = landed;
+    stats[MatchStatus::KnockdownsScored] = knockdownsGiven;
+    stats[MatchStatus::KnockdownsTaken] = knockdownsTaken;
     return stats;
 }
 

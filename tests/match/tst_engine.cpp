@@ -34,8 +34,10 @@ private slots:
         QCOMPARE(man.getStaminaBand(), 1);
         QCOMPARE(man.getActionCode(), 1);
         const QList<int> status = man.statusVector();
-        QCOMPARE(status.size(), 44);
-        QCOMPARE(status.mid(0, 6), QList<int>({0, 1, 1000, 1000, 1000, 1000}));
+        QCOMPARE(status.size(), int(MatchStatus::Count));
+        for (MatchStatus::Position health :
+             {MatchStatus::HeadHealth, MatchStatus::BodyHealth, MatchStatus::ArmsHealth, MatchStatus::LegsHealth})
+            QCOMPARE(status[health], 1000);
     }
 
     void preparingSetsTheCeilings()

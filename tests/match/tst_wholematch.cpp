@@ -1,23 +1,37 @@
 #include "MatchKit.h"
 
+#include "fighters/GameLists.h"
+#include "fighters/MatchStatus.h"
 #include "fighters/Random.h"
 #include "match/CommentaryBuffer.h"
-#include "match/MatchManager.h"
+#include "match/WholeMatch.h"
 
 #include <QRegularExpression>
 #include <QtTest>
 
 using MatchKit::fighter;
+using Ending = WholeMatch::Ending;
+using Verdict = JudgesCards::Verdict;
 
 namespace {
 
-const QStringList styles = {"Outfighter", "Infighter", "Clincher", "Puncher", "Kicker", "Brawler", "Tactician"};
+const QStringList &styles = GameLists::fightingStyles();
 
 // the result line of every match of the game has one of these two shapes
 const QRegularExpression stoppageLine(
-    QStringLiteral("^Test \\w+ defeated Test \\w+ by T?KO\\((Jab|Hook|Cross|Uppercut|Low Kick|Mid Kick|High Kick|Front Kick|Knee|Elbow|Body Punch)\\) in [0-2]:[0-5]\\d of Round (10|[1-9])\\.$"));
-const QRegularExpression decisionLine(
-    QStringLiteral("^Test \\w+ defeated Test \\w+ by Decision in 3:00 of Round (10|[3-9])\\.$"));
+    QStringLiteral("^Test \\w+ defeated Test \\w+ by (T?KO)\\((Jab|Hook|Cross|Uppercut|Low Kick|Mid Kick|High "
+                   "Kick|Front Kick|Knee|Elbow|Body Punch)\\) in [0-2]:[0-5]\\d of Round (10|[1-9])\\.$"));
+const QRegularExpression decisionLine(QStringLiteral(
+    "^Test \\w+ defeated Test \\w+ by (Unanimous|Majority|Split) Decision in 3:00 of Round (10|[3-9])\\.$"));
+
+// a man who cannot hurt and cannot be hurt: his matches go to the judges
+Entity_Fighter stayer(int id, const QString &lastName, const QString &style)
+{
+    Entity_Fighter man = fighter(id, lastName, style, 0);
+    man.setNumber(Entity_Fighter::HeadDurability, 1000);
+    man.setNumber(Entity_Fighter::BodyDurability, 1000);
+    return man;
+}
 
 } // namespace
 
@@ -29,7 +43,8 @@ private slots:
     void init() { Random::useTestClock(20261123); }
     void cleanup() { Random::useRealClock(); }
 
-    // every pairing of styles and strengths comes to an end the world can write down
+    // every pairing of styles and strengths comes to an end the world can write down, and the
+    // ending, the line, the entries and the counts tell the same story
     void everyMatchEndsWithAResult_data()
     {
         QTest::addColumn<QString>("styleOne");
@@ -39,9 +54,12 @@ private slots:
         for (const QString &a : styles)
             for (const QString &b : styles)
                 QTest::addRow("%s v %s", qPrintable(a), qPrintable(b)) << a << b << 55 << 50;
-        QTest::newRow("two novices") << "Brawler" << "Kicker" << 20 << 20;
-        QTest::newRow("two masters") << "Tactician" << "Outfighter" << 95 << 95;
-        QTest::newRow("no attributes at all") << "Puncher" << "Clincher" << 0 << 0;
+        QTest::newRow("two novices") << "Brawler"
+                                     << "Kicker" << 20 << 20;
+        QTest::newRow("two masters") << "Tactician"
+                                     << "Outfighter" << 95 << 95;
+        QTest::newRow("no attributes at all") << "Puncher"
+                                              << "Clincher" << 0 << 0;
     }
 
     void everyMatchEndsWithAResult()
@@ -52,32 +70,141 @@ private slots:
         QFETCH(int, levelTwo);
         for (int match = 0; match < 5; ++match) {
             CommentaryBuffer commentary;
-            const MatchKit::Outcome outcome = MatchKit::fight(fighter(1, "Alder", styleOne, levelOne),
-                                                              fighter(2, "Birch", styleTwo, levelTwo), &commentary);
-            QVERIFY2(stoppageLine.match(outcome.line).hasMatch() || decisionLine.match(outcome.line).hasMatch(),
-                     qPrintable(outcome.line));
-            QCOMPARE(outcome.stoppage, stoppageLine.match(outcome.line).hasMatch());
-            QVERIFY(outcome.winnerId + outcome.loserId == 3 && outcome.winnerId != outcome.loserId);
-            QVERIFY(outcome.winnerEntry.startsWith("Win: Test "));
-            QVERIFY(outcome.loserEntry.startsWith("Loss: Test "));
+            const WholeMatch::Result r = WholeMatch::fight(fighter(1, "Alder", styleOne, levelOne),
+                                                           fighter(2, "Birch", styleTwo, levelTwo), &commentary);
+            const QRegularExpressionMatch stopped = stoppageLine.match(r.line);
+            const QRegularExpressionMatch decided = decisionLine.match(r.line);
+            QVERIFY2(stopped.hasMatch() || decided.hasMatch(), qPrintable(r.line));
+            if (stopped.hasMatch()) {
+                QCOMPARE(r.ending, stopped.captured(1) == "KO" ? Ending::Knockout : Ending::TechnicalKnockout);
+                QCOMPARE(r.verdict, Verdict::None);
+                QCOMPARE(stopped.captured(3).toInt(), r.rounds);
+            } else {
+                QCOMPARE(r.ending, Ending::Decision);
+                QCOMPARE(decided.captured(1) + " Decision", JudgesCards::word(r.verdict));
+                QCOMPARE(decided.captured(2).toInt(), r.rounds);
+            }
+            QVERIFY(r.winnerId + r.loserId == 3 && r.winnerId != r.loserId);
+            const QString winner = r.winnerId == 1 ? "Test Alder" : "Test Birch";
+            const QString loser = r.winnerId == 1 ? "Test Birch" : "Test Alder";
+            QVERIFY(r.line.startsWith(winner + " defeated " + loser));
+            // the entries name the other man and the same ending as the line
+            const QString how = r.line.section(" by ", 1).section(" in ", 0, 0);
+            const QString when = " - Rd. " + QString::number(r.rounds) + '(';
+            QVERIFY2(r.winnerEntry.startsWith("Win: " + loser + " - " + how + when), qPrintable(r.winnerEntry));
+            QVERIFY2(r.loserEntry.startsWith("Loss: " + winner + " - " + how + when), qPrintable(r.loserEntry));
             // each step flushes both men's comments, empty ones included
-            QVERIFY(commentary.paragraphs().size() >= 2 * outcome.steps);
+            QVERIFY(commentary.paragraphs().size() >= 2 * r.steps);
+            QVERIFY(r.steps >= r.rounds);
+        }
+    }
+
+    // the fight night drives a match a step at a time: under the same clock it is the very match
+    // that the day flow fights in one go
+    void stepByStepIsTheWholeMatch()
+    {
+        for (int seed = 1; seed <= 6; ++seed) {
+            const Entity_Fighter one = fighter(1, "Alder", styles[seed], 55);
+            const Entity_Fighter two =
+                seed % 2 ? stayer(2, "Birch", styles[seed - 1]) : fighter(2, "Birch", "Kicker", 50);
+            CommentaryBuffer atOnce;
+            Random::useTestClock(seed);
+            const WholeMatch::Result whole = WholeMatch::fight(one, two, &atOnce);
+
+            CommentaryBuffer stepped;
+            Random::useTestClock(seed);
+            WholeMatch match(one, two, &stepped);
+            int steps = 0;
+            int bells = 0;
+            while (!match.isOver()) {
+                match.beginRound();
+                WholeMatch::Moment moment = match.step();
+                for (++steps; moment == WholeMatch::Moment::Fighting; ++steps)
+                    moment = match.step();
+                if (moment == WholeMatch::Moment::Bell) {
+                    ++bells;
+                    match.bell();
+                }
+            }
+            const WholeMatch::Result &r = match.result();
+            QCOMPARE(r.line, whole.line);
+            QCOMPARE(r.winnerEntry, whole.winnerEntry);
+            QCOMPARE(r.steps, steps);
+            QCOMPARE(r.steps, whole.steps);
+            QCOMPARE(r.rounds, whole.rounds);
+            QCOMPARE(match.cards().rounds(), bells);
+            QCOMPARE(r.statusOne, whole.statusOne);
+            QCOMPARE(stepped.paragraphs(), atOnce.paragraphs());
         }
     }
 
     void theSameClockFightsTheSameMatch()
     {
-        CommentaryBuffer first, second;
+        CommentaryBuffer first, second, third;
+        const Entity_Fighter one = fighter(1, "Alder", "Brawler", 60);
+        const Entity_Fighter two = fighter(2, "Birch", "Clincher", 58);
         Random::useTestClock(99);
-        const MatchKit::Outcome a = MatchKit::fight(fighter(1, "Alder", "Brawler", 60), fighter(2, "Birch", "Clincher", 58), &first);
+        const WholeMatch::Result a = WholeMatch::fight(one, two, &first);
         Random::useTestClock(99);
-        const MatchKit::Outcome b = MatchKit::fight(fighter(1, "Alder", "Brawler", 60), fighter(2, "Birch", "Clincher", 58), &second);
+        const WholeMatch::Result b = WholeMatch::fight(one, two, &second);
         QCOMPARE(a.line, b.line);
         QCOMPARE(first.paragraphs(), second.paragraphs());
         Random::useTestClock(100);
-        CommentaryBuffer third;
-        MatchKit::fight(fighter(1, "Alder", "Brawler", 60), fighter(2, "Birch", "Clincher", 58), &third);
+        WholeMatch::fight(one, two, &third);
         QVERIFY(third.paragraphs() != first.paragraphs());
+    }
+
+    // From the third bell on the match ends exactly when the cards show a majority, and goes on
+    // a round at a time while they don't.
+    void theJudgesGoOnUntilAMajority()
+    {
+        int extended = 0;
+        for (int i = 0; i < 120; ++i) {
+            WholeMatch match(stayer(1, "Alder", styles[i % styles.size()]),
+                             stayer(2, "Birch", styles[(i / styles.size()) % styles.size()]));
+            bool over = false;
+            while (!over) {
+                over = match.fightRound();
+                const JudgesCards &cards = match.cards();
+                QCOMPARE(cards.rounds(), match.result().rounds);
+                QCOMPARE(over, cards.verdict() != Verdict::None);
+                QVERIFY(cards.rounds() <= JudgesCards::LastRound);
+            }
+            const WholeMatch::Result &r = match.result();
+            const JudgesCards &cards = match.cards();
+            QCOMPARE(r.ending, Ending::Decision);
+            QCOMPARE(r.verdict, cards.verdict());
+            // on equal votes after the tenth the first man has it
+            QCOMPARE(r.winnerId, cards.votesOne() >= cards.votesTwo() ? 1 : 2);
+            extended += r.rounds > JudgesCards::FirstVerdictRound ? 1 : 0;
+        }
+        QVERIFY2(extended > 0, "no match went beyond the third round");
+    }
+
+    // a stoppage ends the match in its round: that round gets no card, and nothing moves after it
+    void aStoppageEndsTheMatchAtOnce()
+    {
+        int stoppages = 0;
+        for (int i = 0; i < 40; ++i) {
+            WholeMatch match(fighter(1, "Alder", styles[i % styles.size()], 85),
+                             fighter(2, "Birch", styles[(i + 3) % styles.size()], 25));
+            const WholeMatch::Result r = match.fightToTheEnd();
+            if (r.ending == Ending::Decision)
+                continue;
+            ++stoppages;
+            QCOMPARE(match.cards().rounds(), r.rounds - 1);
+            QVERIFY(r.rounds <= JudgesCards::LastRound);
+            const QList<int> &loser = r.loserId == 1 ? r.statusOne : r.statusTwo;
+            QVERIFY(loser[MatchStatus::KnockdownsTaken] >= 1);
+            QVERIFY(match.fightRound());
+            match.beginRound();
+            QCOMPARE(match.step(), WholeMatch::Moment::Over);
+            QVERIFY(match.bell());
+            QCOMPARE(match.result().steps, r.steps);
+            QCOMPARE(match.result().rounds, r.rounds);
+            QCOMPARE(match.result().line, r.line);
+        }
+        QVERIFY2(stoppages >= 30, qPrintable(QString::number(stoppages)));
     }
 
     void theBetterManWinsMostNights_data()
@@ -98,32 +225,34 @@ private slots:
         for (int i = 0; i < 40; ++i) {
             // the better man stands second half of the time, so the tie rule can't help him
             const bool second = i % 2 == 1;
-            const MatchKit::Outcome outcome =
-                MatchKit::fight(fighter(1, "Alder", styles[i % 7], second ? worse : better),
-                                fighter(2, "Birch", styles[(i + 3) % 7], second ? better : worse));
-            wins += outcome.winnerId == (second ? 2 : 1) ? 1 : 0;
+            const WholeMatch::Result r =
+                WholeMatch::fight(fighter(1, "Alder", styles[i % styles.size()], second ? worse : better),
+                                  fighter(2, "Birch", styles[(i + 3) % styles.size()], second ? better : worse));
+            wins += r.winnerId == (second ? 2 : 1) ? 1 : 0;
         }
         QVERIFY2(wins >= minimumWins, qPrintable(QString::number(wins)));
     }
 
-    // what the fight screen reads stays consistent through a whole match
+    // what the fight screen and the match summary read stays consistent through a whole match
     void statisticsAddUp()
     {
-        MatchManager &match = MatchManager::instance();
         for (int i = 0; i < 30; ++i) {
-            const MatchKit::Outcome outcome =
-                MatchKit::fight(fighter(1, "Alder", styles[i % 7], 50), fighter(2, "Birch", styles[(i + 2) % 7], 50));
-            const QList<int> one = match.statusOf(1);
-            const QList<int> two = match.statusOf(2);
-            QCOMPARE(one.size(), 44);
-            for (const QList<int> &status : {one, two})
-                for (int pair = 6; pair < 42; pair += 2)
-                    QVERIFY2(status[pair] <= status[pair + 1] && status[pair] >= 0, qPrintable(QString::number(pair)));
-            const QList<int> &loser = outcome.loserId == 1 ? one : two;
-            if (outcome.stoppage)
-                QVERIFY(loser[43] >= 1);
+            const WholeMatch::Result r = WholeMatch::fight(fighter(1, "Alder", styles[i % styles.size()], 50),
+                                                           fighter(2, "Birch", styles[(i + 2) % styles.size()], 50));
+            for (const QList<int> &status : {r.statusOne, r.statusTwo}) {
+                QCOMPARE(status.size(), int(MatchStatus::Count));
+                for (int strike = 0; strike < MatchStatus::StrikeCount; ++strike) {
+                    QVERIFY(status[MatchStatus::landed(strike)] >= 0);
+                    QVERIFY(status[MatchStatus::landed(strike)] <= status[MatchStatus::thrown(strike)]);
+                }
+                for (int defence = 0; defence < MatchStatus::DefenceCount; ++defence) {
+                    QVERIFY(status[MatchStatus::made(defence)] >= 0);
+                    QVERIFY(status[MatchStatus::made(defence)] <= status[MatchStatus::tried(defence)]);
+                }
+            }
             // every knockdown one man takes, the other scored
-            QVERIFY(qAbs(one[42] - two[43]) <= 1 && qAbs(two[42] - one[43]) <= 1);
+            QVERIFY(qAbs(r.statusOne[MatchStatus::KnockdownsScored] - r.statusTwo[MatchStatus::KnockdownsTaken]) <= 1);
+            QVERIFY(qAbs(r.statusTwo[MatchStatus::KnockdownsScored] - r.statusOne[MatchStatus::KnockdownsTaken]) <= 1);
         }
     }
 };

@@ -1,7 +1,6 @@
 #include "WorldSamples.h"
 
 #include "world/DayFlow.h"
-#include "world/JudgesCards.h"
 #include "world/RankMove.h"
 #include "world/WorldInvariants.h"
 #include "world/WorldMatch.h"
@@ -190,7 +189,7 @@ private slots:
         const Entity_Event night = tonight();
 
         const WorldMatch::Outcome outcome = WorldMatch::fight(world, night, night.matchAt(0));
-        QVERIFY(outcome.ending != WorldMatch::Ending::NotFought);
+        QVERIFY(outcome.ending != WholeMatch::Ending::None);
         QVERIFY(outcome.winnerId == 101 || outcome.winnerId == 102);
         QCOMPARE(outcome.winnerId + outcome.loserId, 203);
         QVERIFY2(outcome.line.startsWith(type + " - "), qPrintable(outcome.line));
@@ -230,78 +229,6 @@ private slots:
         QCOMPARE(results.size(), 2);
         QVERIFY(results[0].startsWith("Tournament Quarterfinal - ") && !results[0].endsWith('\n'));
         QVERIFY(results[1].endsWith('\n'));
-    }
-
-    // the three judges' cards at each bell, and the verdict they give once three rounds are over
-    void judgesCards_data()
-    {
-        QTest::addColumn<QList<QList<int>>>("rounds");
-        QTest::addColumn<QStringList>("verdicts"); // after each round from the third on
-        QTest::addColumn<QList<int>>("totals");    // the first judge's totals at the end
-        const QList<int> oneAll{20, 20, 20, 5, 5, 5, 0, 0};
-        const QList<int> even{7, 7, 7, 7, 7, 7, 0, 0};
-        const QList<int> splitEven{20, 5, 7, 5, 20, 7, 0, 0}; // judge one for one, two for two, three even
-        const QList<int> thirdForOne{7, 7, 20, 7, 7, 5, 0, 0};
-        QTest::newRow("three clean rounds: unanimous")
-            << QList<QList<int>>{oneAll, oneAll, oneAll} << QStringList{"Unanimous Decision"} << QList<int>{30, 27};
-        QTest::newRow("one judge even: majority") << QList<QList<int>>(3, {20, 20, 7, 5, 5, 7, 0, 0})
-                                                  << QStringList{"Majority Decision"} << QList<int>{30, 27};
-        QTest::newRow("one judge against: split")
-            << QList<QList<int>>(3, {20, 20, 5, 5, 5, 20, 0, 0}) << QStringList{"Split Decision"} << QList<int>{30, 27};
-        QTest::newRow("1-1 after three goes to a fourth round")
-            << QList<QList<int>>{splitEven, splitEven, splitEven, thirdForOne} << QStringList{"", "Split Decision"}
-            << QList<int>{40, 37};
-        QTest::newRow("ten rounds without a majority: split")
-            << QList<QList<int>>(10, even) << QStringList{"", "", "", "", "", "", "", "Split Decision"}
-            << QList<int>{100, 100};
-        QTest::newRow("two knockdowns lose a won round")
-            << QList<QList<int>>{{50, 50, 50, 10, 10, 10, 2, 0}, even, even} << QStringList{"Unanimous Decision"}
-            << QList<int>{28, 29};
-        QTest::newRow("a knockdown in an even round") << QList<QList<int>>{{7, 7, 7, 7, 7, 7, 0, 1}, even, even}
-                                                      << QStringList{"Unanimous Decision"} << QList<int>{30, 29};
-    }
-    void judgesCards()
-    {
-        QFETCH(QList<QList<int>>, rounds);
-        QFETCH(QStringList, verdicts);
-        QFETCH(QList<int>, totals);
-        JudgesCards cards;
-        QStringList given;
-        for (int round = 1; round <= rounds.size(); ++round) {
-            cards.addRound(rounds[round - 1]);
-            if (round >= 3)
-                given << JudgesCards::verdict(cards.votesOne(), cards.votesTwo(), round);
-        }
-        QCOMPARE(given, verdicts);
-        QCOMPARE(QList<int>({cards.totalOne(0), cards.totalTwo(0)}), totals);
-    }
-
-    void verdictWords_data()
-    {
-        QTest::addColumn<int>("votesOne");
-        QTest::addColumn<int>("votesTwo");
-        QTest::addColumn<int>("rounds");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("3-0") << 3 << 0 << 3 << "Unanimous Decision";
-        QTest::newRow("0-3") << 0 << 3 << 5 << "Unanimous Decision";
-        QTest::newRow("2-0") << 2 << 0 << 3 << "Majority Decision";
-        QTest::newRow("0-2") << 0 << 2 << 10 << "Majority Decision";
-        QTest::newRow("2-1") << 2 << 1 << 3 << "Split Decision";
-        QTest::newRow("1-2") << 1 << 2 << 4 << "Split Decision";
-        QTest::newRow("1-1 after three: one more round") << 1 << 1 << 3 << "";
-        QTest::newRow("1-0 after nine: one more round") << 1 << 0 << 9 << "";
-        QTest::newRow("0-0 after nine: one more round") << 0 << 0 << 9 << "";
-        QTest::newRow("1-1 after ten: split") << 1 << 1 << 10 << "Split Decision";
-        QTest::newRow("0-1 after ten: split") << 0 << 1 << 10 << "Split Decision";
-        QTest::newRow("0-0 after ten: split") << 0 << 0 << 10 << "Split Decision";
-    }
-    void verdictWords()
-    {
-        QFETCH(int, votesOne);
-        QFETCH(int, votesTwo);
-        QFETCH(int, rounds);
-        QFETCH(QString, word);
-        QCOMPARE(JudgesCards::verdict(votesOne, votesTwo, rounds), word);
     }
 
     // the jobs of a new month and a new year run on the new date, each at most once

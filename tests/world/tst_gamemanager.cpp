@@ -1,5 +1,7 @@
 #include "WorldSamples.h"
 
+#include "fighters/MatchStatus.h"
+
 #include <QtTest>
 
 using namespace WorldSamples;
@@ -335,8 +337,8 @@ private slots:
         w.gym.unpack(w.gym.strings(), values, w.gym.ledger());
         QVERIFY(w.load());
 
-        QList<int> statistics(44, 0);
-        statistics[6] = 12;
+        QList<int> statistics(MatchStatus::Count, 0);
+        statistics[MatchStatus::JabLanded] = 12;
         QCOMPARE(world().applyMatchOutcome(statistics, 1050, entry), levelUp);
         const Entity_Gym gym = world().gymRecord();
         QCOMPARE(gym.money(), money);

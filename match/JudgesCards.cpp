@@ -1,25 +1,37 @@
-#include "world/JudgesCards.h"
+#include "match/JudgesCards.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
 
-// the votes of the majority side and of the other side give the word
+using Verdict = JudgesCards::Verdict;
+
+// the votes of the majority side and of the other side give the verdict
 struct VerdictRow {
     int majority;
     int minority;
-    const char *word;
+    Verdict verdict;
 };
 
 constexpr VerdictRow verdicts[] = {
-    {3, 0, "Unanimous Decision"},
-    {2, 0, "Majority Decision"},
-    {2, 1, "Split Decision"},
+    {3, 0, Verdict::Unanimous},
+    {2, 0, Verdict::Majority},
+    {2, 1, Verdict::Split},
 };
 
 // a match still without a majority after the last round is settled as a split
-constexpr const char *lastRoundWord = "Split Decision";
+constexpr Verdict lastRoundVerdict = Verdict::Split;
+
+struct WordRow {
+    Verdict verdict;
+    const char *word;
+};
+
+constexpr WordRow words[] = {
+    {Verdict::Unanimous, "Unanimous Decision"},
+    {Verdict::Majority, "Majority Decision"},
+    {Verdict::Split, "Split Decision"},
+};
 
 } // namespace
 
@@ -35,6 +47,7 @@ void JudgesCards::addRound(const QList<int> &scores)
         one[judge] += (a >= b ? 10 : 9) - downsOne;
         two[judge] += (b >= a ? 10 : 9) - downsTwo;
     }
+    ++roundsScored;
 }
 
 int JudgesCards::votesOne() const
@@ -53,12 +66,22 @@ int JudgesCards::votesTwo() const
     return votes;
 }
 
-QString JudgesCards::verdict(int votesOne, int votesTwo, int roundsFought)
+JudgesCards::Verdict JudgesCards::verdictOf(int votesOne, int votesTwo, int roundsFought)
 {
+    if (roundsFought < FirstVerdictRound)
+        return Verdict::None;
     const int majority = std::max(votesOne, votesTwo);
     const int minority = std::min(votesOne, votesTwo);
     for (const VerdictRow &row : verdicts)
         if (row.majority == majority && row.minority == minority)
-            return row.word;
-    return roundsFought >= LastRound ? QString(lastRoundWord) : QString();
+            return row.verdict;
+    return roundsFought >= LastRound ? lastRoundVerdict : Verdict::None;
+}
+
+QString JudgesCards::word(Verdict verdict)
+{
+    for (const WordRow &row : words)
+        if (row.verdict == verdict)
+            return QString::fromLatin1(row.word);
+    return QString();
 }
