@@ -1,6 +1,7 @@
 # Runs orvane-sim for a CTest test.
 #   MODE=output: its standard output must equal the file EXPECTED.
 #   MODE=repeat: two runs with the same arguments must write byte-identical saves (into WORK).
+#   MODE=contains: its standard output must hold every text of the list CONTAINS.
 if(MODE STREQUAL "output")
   execute_process(COMMAND ${SIM} ${ARGS} OUTPUT_VARIABLE out RESULT_VARIABLE rc)
   if(NOT rc EQUAL 0)
@@ -25,6 +26,17 @@ elseif(MODE STREQUAL "repeat")
   if(NOT differ EQUAL 0)
     message(FATAL_ERROR "two runs with the same seed wrote different saves")
   endif()
+elseif(MODE STREQUAL "contains")
+  execute_process(COMMAND ${SIM} ${ARGS} OUTPUT_VARIABLE out RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "orvane-sim ended with ${rc}:\n${out}")
+  endif()
+  foreach(text ${CONTAINS})
+    string(FIND "${out}" "${text}" at)
+    if(at EQUAL -1)
+      message(FATAL_ERROR "the output lacks '${text}':\n${out}")
+    endif()
+  endforeach()
 else()
   message(FATAL_ERROR "unknown MODE '${MODE}'")
 endif()

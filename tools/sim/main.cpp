@@ -1,13 +1,20 @@
 // orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] [--no-times]
+// orvane-sim matches --count N [--seed S | --real-clock]
 //
 // Starts a new game with a plain manager and gym on the default world, or loads a saved game,
 // and runs N days of the game's own day flow without a screen. It prints the figures of each game
 // year and writes the world to FILE at the end. With --seed the test clock makes every run with
 // the same arguments the same (the lines with timings aside; --no-times leaves them out). With
 // --check the world invariants are checked after every day, and the first fault stops the run.
-// With --news the news of every day is printed as the Next Day screen shows it. It must run
-// where the game runs, beside the Resources tree.
+// With --news the news of every day is printed as the Next Day screen shows it.
+//
+// The matches mode draws N pairs from the rosters of the new game's world, each man against
+// another of his organisation, fights them as the day flow does, and prints how they ended, the
+// rounds and steps of a match and the matches per second; --seed makes the draws repeat, the
+// real clock is the game's own. Both modes must run where the game runs, beside the Resources
+// tree.
 
+#include "MatchesRun.h"
 #include "WorldReport.h"
 
 #include "fighters/Entity_Gym.h"
@@ -38,6 +45,11 @@ struct Options {
 
 const char *usage = "usage: orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] "
                     "[--no-times]\n";
+
+void printUsage()
+{
+    QTextStream(stderr) << usage << MatchesRun::usage;
+}
 
 bool parse(const QStringList &args, Options &options)
 {
@@ -87,15 +99,52 @@ void startNewGame(GameManager &world)
     world.loadDefaultWorld();
 }
 
+// the default files lie beside the game, in ./Resources/Defaults
+bool defaultWorldHere()
+{
+    if (QDir(QStringLiteral("Resources/Defaults")).exists())
+        return true;
+    QTextStream(stderr) << "no default world in ./Resources/Defaults: run the simulator from the "
+                           "directory of the game (build/bin)\n";
+    return false;
+}
+
+int fightMatches(const QStringList &args)
+{
+    MatchesRun::Options options;
+    if (!MatchesRun::parse(args, options)) {
+        printUsage();
+        return 2;
+    }
+    if (options.seeded)
+        Random::useTestClock(options.seed);
+    if (!defaultWorldHere())
+        return 1;
+    GameManager &world = GameManager::instance();
+    startNewGame(world);
+    MatchesRun run(world);
+    if (!run.hasPairs()) {
+        QTextStream(stderr) << "no roster of the default world holds two men\n";
+        return 1;
+    }
+    QTextStream out(stdout);
+    out << "Matches of the world's rosters: " << options.count
+        << (options.seeded ? QString(", seed %1").arg(options.seed) : QString(", real clock")) << '\n';
+    out << run.run(options.count).join('\n') << '\n';
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
+    if (app.arguments().value(1) == QLatin1String("matches"))
+        return fightMatches(app.arguments());
     QTextStream out(stdout);
     Options options;
     if (!parse(app.arguments(), options)) {
-        QTextStream(stderr) << usage;
+        printUsage();
         return 2;
     }
     if (options.seeded)
@@ -103,12 +152,8 @@ int main(int argc, char *argv[])
 
     GameManager &world = GameManager::instance();
     if (options.load.isEmpty()) {
-        // the default files lie beside the game, in ./Resources/Defaults
-        if (!QDir(QStringLiteral("Resources/Defaults")).exists()) {
-            QTextStream(stderr) << "no default world in ./Resources/Defaults: run the simulator from the "
-                                   "directory of the game (build/bin)\n";
+        if (!defaultWorldHere())
             return 1;
-        }
         startNewGame(world);
     } else {
         QString reason;
