@@ -3,7 +3,6 @@
 #include "fighters/StreamForm.h"
 #include "persistence/DataFile.h"
 #include "persistence/DefaultFiles.h"
-#include "world/GameManager.h"
 #include "world/OrgTable.h"
 
 Entity_Org DefaultWorld::readOrganisation(const QString &path, const QString &name)
@@ -34,13 +33,15 @@ void DefaultWorld::addFighters(FighterList &into, const FighterList &list)
     }
 }
 
-void DefaultWorld::load(GameManager &game)
+WorldState DefaultWorld::read()
 {
+    WorldState world;
     for (int i = 0; i < OrgTable::Count; ++i)
-        game.organisations.append(
+        world.organisations.append(
             readOrganisation(DefaultFiles::path(DefaultFiles::organisationFile(OrgTable::key(i))), OrgTable::name(i)));
     for (int n = 1; n <= DefaultFiles::FreeAgentLists; ++n)
-        addFighters(game.freeAgents, readFighterList(DefaultFiles::path(DefaultFiles::freeAgentFile(n))));
+        addFighters(world.freeAgents, readFighterList(DefaultFiles::path(DefaultFiles::freeAgentFile(n))));
     for (int n = 1; n <= DefaultFiles::AmateurLists; ++n)
-        addFighters(game.amateurs, readFighterList(DefaultFiles::path(DefaultFiles::amateurFile(n))));
+        addFighters(world.amateurs, readFighterList(DefaultFiles::path(DefaultFiles::amateurFile(n))));
+    return world;
 }

@@ -2,21 +2,19 @@
 
 #include "fighters/Entity_Fighter.h"
 #include "world/Entity_Org.h"
+#include "world/WorldState.h"
 
 #include <QMultiMap>
 #include <QString>
 
-class GameManager;
-
 // The world of a new game, read from the default files: the eighteen organisations in their
-// order, then the free agents and the amateurs. The gym, the manager, the date and the id counter
-// are left as they are.
+// order, then the free agents and the amateurs, in a world of the first day.
 class DefaultWorld
 {
 public:
     using FighterList = QMultiMap<int, Entity_Fighter>; // ranking score to fighter
 
-    static void load(GameManager &game);
+    static WorldState read();
 
     // One organisation's file. A file that can't be read gives an organisation with the table's
     // name and nothing else, so the world keeps its eighteen places.

@@ -1,8 +1,8 @@
 #include "persistence/SaveFile.h"
 
-#include "fighters/StreamForm.h"
 #include "persistence/DataFile.h"
 #include "world/GameManager.h"
+#include "world/WorldState.h"
 
 #include <QDataStream>
 #include <QDir>
@@ -18,24 +18,6 @@ void tell(QString *reason, const QString &text)
 {
     if (reason)
         *reason = text;
-}
-
-// the running world as it stands, to put back after a file that the reader took but that
-// holds more than a world
-QByteArray worldBytes()
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(StreamForm::version);
-    GameManager::instance().writeTo(out);
-    return bytes;
-}
-
-void restoreWorld(const QByteArray &bytes)
-{
-    QDataStream in(bytes);
-    in.setVersion(StreamForm::version);
-    GameManager::instance().readFrom(in);
 }
 
 } // namespace
@@ -56,8 +38,9 @@ bool SaveFile::isValidName(const QString &name, QString *reason)
         tell(reason, QStringLiteral("Please specify a file name for your save."));
         return false;
     }
-    if (name == QLatin1String(".") || name == QLatin1String("..")) {
-        tell(reason, QStringLiteral("\".\" and \"..\" can't be the name of a save."));
+    if (name.startsWith('.')) {
+        tell(reason, QStringLiteral("The name of a save can't start with \".\": such a file would be hidden "
+                                    "from the list of saved games."));
         return false;
     }
     for (const QChar c : name) {
@@ -113,13 +96,8 @@ bool SaveFile::save(const QString &name, QString *reason)
 
 bool SaveFile::saveTo(const QString &path, QString *reason)
 {
-    return saveTo(
-        path, [](QDataStream &out) { GameManager::instance().writeTo(out); }, reason);
-}
-
-bool SaveFile::saveTo(const QString &path, const std::function<void(QDataStream &)> &write, QString *reason)
-{
-    return DataFile::write(path, write, reason);
+    return DataFile::write(
+        path, [](QDataStream &out) { GameManager::instance().state().write(out); }, reason);
 }
 
 bool SaveFile::load(const QString &name, QString *reason)
@@ -140,21 +118,15 @@ bool SaveFile::loadFrom(const QString &path, QString *reason)
         tell(reason, file.errorString());
         return false;
     }
-    if (file.size() == 0) {
-        tell(reason, QStringLiteral("The file is empty."));
+    return loadBytes(file.readAll(), reason);
+}
+
+bool SaveFile::loadBytes(const QByteArray &data, QString *reason)
+{
+    WorldState world;
+    if (!WorldState::fromBytes(data, world, reason))
         return false;
-    }
-    const QByteArray before = worldBytes();
-    QDataStream in(&file);
-    in.setVersion(StreamForm::version);
-    if (!GameManager::instance().readFrom(in, reason))
-        return false;
-    if (!in.atEnd()) {
-        // nothing follows the world in a saved game
-        restoreWorld(before);
-        tell(reason, QStringLiteral("The file holds more than a saved game."));
-        return false;
-    }
+    GameManager::instance().takeWorld(world);
     return true;
 }
 

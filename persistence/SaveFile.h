@@ -1,23 +1,21 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-#include <functional>
-
-class QDataStream;
-
 // The saved games in ./Resources/Saves/, one file "<name>.dat" for each: the whole world as one
-// stream. A name is what the user typed; it stays inside the folder or is refused. Every refusal
-// comes with a reason that a screen can show.
+// stream. A name is what the user typed; it stays inside the folder and in its list, or is
+// refused. Every refusal comes with a reason that a screen can show.
 class SaveFile
 {
 public:
     static QString folder();
     static QString pathOf(const QString &name);
 
-    // A name holds no path separator or control character, is not "." or "..", is not empty and
-    // fits a file name, so the file can only lie in the folder of the saves.
+    // A name is not empty, does not start with "." (the file would be hidden, and no list would
+    // show it), holds no path separator or control character and fits a file name, so the file
+    // lies in the folder of the saves and in its list.
     static bool isValidName(const QString &name, QString *reason = nullptr);
     static bool exists(const QString &name);
     static bool canOpen(const QString &name);
@@ -27,13 +25,14 @@ public:
     // The running world goes to the file through a temporary one that takes its name only when
     // the whole world reached the disk; an old save of that name stays until then.
     static bool save(const QString &name, QString *reason = nullptr);
-    // The world of the file replaces the running one, or the file is refused and the running
-    // world stays exactly as it was: a missing, empty, short, foreign or damaged file.
+    // The whole file is read into a world of its own, which replaces the running one only when
+    // it read clean to the last byte; a missing, empty, short, foreign or damaged file is refused
+    // and the running world stays exactly as it was.
     static bool load(const QString &name, QString *reason = nullptr);
     static bool remove(const QString &name, QString *reason = nullptr);
 
-    // the same work on a path of any folder, and with any writer in place of the world
+    // the same work on a path of any folder, and on a save's bytes
     static bool saveTo(const QString &path, QString *reason = nullptr);
-    static bool saveTo(const QString &path, const std::function<void(QDataStream &)> &write, QString *reason);
     static bool loadFrom(const QString &path, QString *reason = nullptr);
+    static bool loadBytes(const QByteArray &data, QString *reason = nullptr);
 };

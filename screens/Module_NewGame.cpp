@@ -1,10 +1,10 @@
 #include "screens/Module_NewGame.h"
 
-#include "fighters/Entity_Gym.h"
-#include "fighters/Entity_Manager.h"
 #include "fighters/GameLists.h"
+#include "fighters/NationTable.h"
 #include "persistence/DefaultFiles.h"
-#include "persistence/NationTable.h"
+#include "persistence/DefaultWorld.h"
+#include "persistence/NameFiles.h"
 #include "screens/Module_MainMenu.h"
 #include "screens/ScreenFactory.h"
 #include "shell/GameDialog.h"
@@ -108,7 +108,7 @@ Module_NewGame::Module_NewGame(QWidget *parent)
     , screenLayout(new QVBoxLayout(this))
 {
     QList<QStringList> lists;
-    if (!NationTable::read(lists, DefaultFiles::path(DefaultFiles::nationsFile())))
+    if (!NameFiles::readNations(lists, DefaultFiles::path(DefaultFiles::nationsFile())))
         // shown over the screen once it stands; the screen goes on with empty nation lists
         QMetaObject::invokeMethod(this, &Module_NewGame::warnOfMissingNations, Qt::QueuedConnection);
     for (int region = 0; region < RegionCount; ++region)
@@ -359,22 +359,18 @@ void Module_NewGame::backToManagerInfo()
 
 void Module_NewGame::aheadToGame()
 {
-    const Entity_Manager unknownManager;
-    QList<int> managerValues = unknownManager.values();
-    for (int skill = 0; skill < SkillBoxCount; ++skill)
-        managerValues[Entity_Manager::Punch + skill] = skillBoxes[skill]->value();
-    GameManager &world = GameManager::instance();
-    world.setManager({firstNameEdit->text(), lastNameEdit->text(), regionBox->currentText(), nationBox->currentText(),
-                      unknownManager.text(Entity_Manager::ManagerReputation)},
-                     managerValues, {});
-
-    // a new gym starts with the money and the places of the first day
-    const Entity_Gym newGym;
-    world.setGym({gymNameEdit->text(), styleBox->currentText(), primaryColourBox->currentText(),
-                  secondaryColourBox->currentText(), newGym.text(Entity_Gym::GymPrestige)},
-                 newGym.values(), newGym.ledger());
-
-    world.loadDefaultWorld();
+    GameManager::NewGame choices;
+    choices.firstName = firstNameEdit->text();
+    choices.lastName = lastNameEdit->text();
+    choices.region = regionBox->currentText();
+    choices.nation = nationBox->currentText();
+    for (const QSpinBox *box : skillBoxes)
+        choices.skills.append(box->value());
+    choices.gymName = gymNameEdit->text();
+    choices.gymStyle = styleBox->currentText();
+    choices.primaryColour = primaryColourBox->currentText();
+    choices.secondaryColour = secondaryColourBox->currentText();
+    GameManager::instance().startNewGame(choices, DefaultWorld::read());
     ModuleManager::instance().showTopMenu();
     ModuleManager::instance().changeModule(ScreenFactory::build(TopMenuBar::Profile));
 }

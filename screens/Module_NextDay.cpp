@@ -1,5 +1,6 @@
 #include "screens/Module_NextDay.h"
 
+#include "persistence/NameFiles.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
 #include "world/DayFlow.h"
@@ -52,7 +53,7 @@ void Module_NextDay::startNextDayFlow()
 {
     startTimer->stop();
     DayFlow day(
-        GameManager::instance(), [this](const QString &paragraph) { news->append(paragraph); },
+        GameManager::instance(), NameFiles::book(), [this](const QString &paragraph) { news->append(paragraph); },
         [this](int step) { progressBar->setValue(step); });
     day.run();
     proceedButton->setText("Proceed to next day");

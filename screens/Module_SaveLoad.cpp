@@ -2,9 +2,9 @@
 
 #include "persistence/SaveFile.h"
 #include "screens/Module_MainMenu.h"
+#include "screens/ScreenFactory.h"
 #include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
-#include "screens/ScreenFactory.h"
 #include "shell/StyleSheetFile.h"
 #include "shell/TopMenuBar.h"
 
@@ -130,7 +130,7 @@ void Module_SaveLoad::saveData()
     if (!message->ask(overwrite ? "That file already exists. Overwrite?" : "Save as " + quoted(name) + "?"))
         return;
     if (!SaveFile::save(name, &refusal)) {
-        message->tell(errorOpening(name), GameDialog::CancelButton);
+        message->tell(errorOpening(name) + '\n' + refusal, GameDialog::CancelButton);
         return;
     }
     refreshList();

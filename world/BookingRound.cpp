@@ -1,7 +1,8 @@
 #include "world/BookingRound.h"
 
 #include "fighters/Random.h"
-#include "world/GameManager.h"
+#include "world/WorldContracts.h"
+#include "world/WorldState.h"
 
 #include <algorithm>
 
@@ -44,7 +45,7 @@ constexpr int PositionDrawLimit = 1000;
 
 } // namespace
 
-BookingRound::BookingRound(GameManager &world)
+BookingRound::BookingRound(WorldState &world)
     : world(world)
     , today(world.currentDate)
 {
@@ -223,13 +224,14 @@ bool BookingRound::book(Turn &turn, const Candidate &man, const QString &matchTy
         return false;
     news.append(QString("Booked %1 for a %2 at %3").arg(man.fullName, matchType, oldName));
     if (dropOffers)
-        world.removeOffersForEvent(oldName);
+        WorldContracts(world).removeOffersForEvent(oldName);
     organisation.renameEvent(oldName, turn.event.date(), man.id, man.lastName);
     turn.event = organisation.nextEvent(today);
     const QString newName = turn.event.name();
 
     if (man.isGym) {
-        world.replaceBooking(Entity_Booking(man.id, man.fullName, newName, organisation.name(), turn.event.date()));
+        WorldContracts(world).replaceBooking(
+            Entity_Booking(man.id, man.fullName, newName, organisation.name(), turn.event.date()));
         return true;
     }
     // a man of the user who is already on this card keeps his link to it under its new name; a

@@ -11,7 +11,7 @@
 #include <QString>
 #include <QStringList>
 
-class GameManager;
+struct WorldState;
 
 // One day of matchmaking in the whole world. Each organisation in turn looks at its next night:
 // a title holder is called up first, then it draws men for the open places, one a day while the
@@ -21,7 +21,7 @@ class GameManager;
 class BookingRound
 {
 public:
-    explicit BookingRound(GameManager &world);
+    explicit BookingRound(WorldState &world);
 
     // every organisation's turn, in list order; the news lines in the order of the bookings
     QStringList run();
@@ -72,7 +72,7 @@ private:
     static int gymPosition(const Turn &turn, const Entity_Fighter &man);
     static Candidate candidate(const Entity_Fighter &man, bool isGym);
 
-    GameManager &world;
+    WorldState &world;
     const QDate today;
     QStringList news;
     QList<int> attemptsMade;

@@ -14,8 +14,9 @@ constexpr int DaySeedOffset = 17;
 
 } // namespace
 
-DayFlow::DayFlow(GameManager &world, Print print, Progress progress)
+DayFlow::DayFlow(GameManager &world, FighterGenerator::NameBook names, Print print, Progress progress)
     : world(world)
+    , names(std::move(names))
     , print(std::move(print))
     , progress(std::move(progress))
 {
@@ -73,7 +74,7 @@ void DayFlow::welcomeANewStudent()
         return;
     QString name;
     // the gym turns him away when every place for a student is taken
-    if (world.generateFighter(name, true))
+    if (world.generateFighter(names, name, true))
         print(name + " has begun to take lessons at your gym.");
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fighters/FighterGenerator.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -21,7 +23,8 @@ public:
 
     static constexpr int LastProgressStep = 6;
 
-    DayFlow(GameManager &world, Print print, Progress progress = {});
+    // new students are drawn from the nations and names of the book
+    DayFlow(GameManager &world, FighterGenerator::NameBook names, Print print, Progress progress = {});
 
     // runs the whole day in one go; it has no failures of its own
     void run();
@@ -56,6 +59,7 @@ private:
     void trimTrainingLogs();
 
     GameManager &world;
+    FighterGenerator::NameBook names;
     Print print;
     Progress progress;
     Tally dayTally;

@@ -1,8 +1,7 @@
 #include "world/WorldInvariants.h"
 
 #include "fighters/GameLists.h"
-
-#include "world/GameManager.h"
+#include "world/WorldState.h"
 
 #include <QHash>
 
@@ -13,7 +12,7 @@ constexpr int fantasyIdLimit = -100;
 
 } // namespace
 
-QStringList WorldInvariants::check(const GameManager &world)
+QStringList WorldInvariants::check(const WorldState &world)
 {
     QStringList faults;
     checkEveryManStandsOnce(world, faults);
@@ -24,7 +23,7 @@ QStringList WorldInvariants::check(const GameManager &world)
 }
 
 // Students share the id 2000 and are no men of the world yet; everybody else has one place.
-void WorldInvariants::checkEveryManStandsOnce(const GameManager &world, QStringList &faults)
+void WorldInvariants::checkEveryManStandsOnce(const WorldState &world, QStringList &faults)
 {
     QHash<int, QString> placeOf;
     auto stand = [&](const Entity_Fighter &man, const QString &place) {
@@ -53,7 +52,7 @@ void WorldInvariants::checkEveryManStandsOnce(const GameManager &world, QStringL
     }
 }
 
-void WorldInvariants::checkRosterKeys(const GameManager &world, QStringList &faults)
+void WorldInvariants::checkRosterKeys(const WorldState &world, QStringList &faults)
 {
     for (const Entity_Org &organisation : world.organisations) {
         Entity_Org::Roster roster;
@@ -68,7 +67,7 @@ void WorldInvariants::checkRosterKeys(const GameManager &world, QStringList &fau
 }
 
 // Each man of the gym has exactly one booking, and a dated booking names a night that exists.
-void WorldInvariants::checkBookings(const GameManager &world, QStringList &faults)
+void WorldInvariants::checkBookings(const WorldState &world, QStringList &faults)
 {
     for (const Entity_GymFighter &man : world.fighters) {
         int records = 0;
@@ -96,7 +95,7 @@ void WorldInvariants::checkBookings(const GameManager &world, QStringList &fault
     }
 }
 
-void WorldInvariants::checkPastNightsFought(const GameManager &world, QStringList &faults)
+void WorldInvariants::checkPastNightsFought(const WorldState &world, QStringList &faults)
 {
     for (const Entity_Org &organisation : world.organisations) {
         QList<Entity_Event> calendar;

@@ -2,17 +2,13 @@
 
 #include "fighters/Entity_Fighter.h"
 #include "fighters/Entity_Gym.h"
-#include "fighters/Entity_GymFighter.h"
 #include "fighters/Entity_Manager.h"
-#include "fighters/StreamForm.h"
-#include "world/Entity_Booking.h"
 #include "world/Entity_Org.h"
 #include "world/GameManager.h"
 
 #include "common/SavedWorld.h"
 
 #include <QByteArray>
-#include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -26,13 +22,13 @@ inline QByteArray worldBytes()
     return SavedWorld::runningBytes();
 }
 
-// The eleven fields of a world, as a save file holds them: read off the running world, or made
+// The eleven fields of a world, as a save file holds them: a copy of the running world, or made
 // by hand and put in its place.
 struct World : SavedWorld {
     static World running()
     {
         World world;
-        world.read(worldBytes());
+        static_cast<WorldState &>(world) = SavedWorld::running();
         return world;
     }
 

@@ -1,10 +1,12 @@
 #include "PersistenceKit.h"
 
+#include "fighters/NationTable.h"
 #include "fighters/Random.h"
+#include "fighters/StreamForm.h"
 #include "persistence/DataFile.h"
 #include "persistence/DefaultFiles.h"
-#include "persistence/FighterGenerator.h"
-#include "persistence/NationTable.h"
+#include "persistence/DefaultWorld.h"
+#include "persistence/NameFiles.h"
 #include "world/Entity_Match.h"
 #include "world/OrgTable.h"
 #include "world/WorldInvariants.h"
@@ -75,8 +77,7 @@ private slots:
     void initTestCase()
     {
         QVERIFY2(defaultsPresent(), "the default files are missing: build orvane_runtime_files");
-        GameManager::instance().resetWorld();
-        GameManager::instance().loadDefaultWorld();
+        GameManager::instance().takeWorld(DefaultWorld::read());
         world = World::running();
     }
 
@@ -96,11 +97,11 @@ private slots:
         QVERIFY(levels["Regional"] > levels["Elite"] + 1);
         // the world is not touched beyond its lists
         QCOMPARE(world.nextId, 1058);
-        QCOMPARE(world.date, QDate(2011, 1, 1));
+        QCOMPARE(world.currentDate, QDate(2011, 1, 1));
     }
 
     // the rules that hold at the end of every day hold on the first one
-    void worldInvariantsHold() { QCOMPARE(WorldInvariants::check(GameManager::instance()), QStringList()); }
+    void worldInvariantsHold() { QCOMPARE(WorldInvariants::check(GameManager::instance().state()), QStringList()); }
 
     void rosters_data() { orgRows(); }
     void rosters()
@@ -246,7 +247,7 @@ private slots:
     void idsAndNations()
     {
         NationTable::Lists lists;
-        QVERIFY(NationTable::read(lists, DefaultFiles::path(DefaultFiles::nationsFile())));
+        QVERIFY(NameFiles::readNations(lists, DefaultFiles::path(DefaultFiles::nationsFile())));
         QSet<int> ids;
         QSet<QString> names;
         const QList<F> men = world.worldMen();
@@ -279,9 +280,9 @@ private slots:
             QVERIFY(boy.number(F::Age) < 18);
             // the stored age is his age on the first day, and he turns 18 on a later day
             const QDate eighteenth = boy.getBirthDate().addYears(18);
-            QVERIFY(eighteenth > world.date);
-            QCOMPARE(boy.getBirthDate().addYears(boy.number(F::Age)) <= world.date, true);
-            QVERIFY(boy.getBirthDate().addYears(boy.number(F::Age) + 1) > world.date);
+            QVERIFY(eighteenth > world.currentDate);
+            QCOMPARE(boy.getBirthDate().addYears(boy.number(F::Age)) <= world.currentDate, true);
+            QVERIFY(boy.getBirthDate().addYears(boy.number(F::Age) + 1) > world.currentDate);
             comingOfAge.insert(eighteenth.year());
         }
         // new professionals arrive year after year
@@ -306,12 +307,13 @@ private slots:
     {
         setUser("Canada", "North America");
         QString name;
-        QVERIFY(!GameManager::instance().generateFighter(name, false));
+        QVERIFY(!GameManager::instance().generateFighter(NameFiles::book(), name, false));
+        int id = 0;
         for (const F &man : World::running().freeAgents)
             if (man.fullName() == name)
-                QCOMPARE(man.getId(), 1059);
-        GameManager::instance().resetWorld();
-        GameManager::instance().loadDefaultWorld();
+                id = man.getId();
+        QCOMPARE(id, 1059);
+        GameManager::instance().takeWorld(DefaultWorld::read());
     }
 
     void nameFamilies_data()
@@ -323,11 +325,26 @@ private slots:
     void nameFamilies()
     {
         QFETCH(QString, family);
-        const FighterGenerator::Names names =
-            FighterGenerator::readNames(DefaultFiles::path(DefaultFiles::namesFile(family)));
+        const FighterGenerator::Names names = NameFiles::readNames(DefaultFiles::path(DefaultFiles::namesFile(family)));
         QVERIFY(names.first.size() >= 100);
         QVERIFY(names.last.size() >= 100);
         QCOMPARE(QSet<QString>(names.first.cbegin(), names.first.cend()).size(), names.first.size());
+    }
+
+    // the nation file puts each main nation where its place gives its own family
+    void mainNationsInTheNationFile()
+    {
+        NationTable::Lists lists;
+        QVERIFY(NameFiles::readNations(lists, DefaultFiles::path(DefaultFiles::nationsFile())));
+        for (int main = 0; main < NationTable::MainCount; ++main) {
+            const int region = NationTable::mainRegion(main);
+            const QString nation = NationTable::mainNation(main);
+            const int position = int(lists[region].indexOf(nation));
+            QVERIFY2(position >= 0, qPrintable(nation + " is not in its region"));
+            // the same family whether it is found by its place or by the main list alone
+            QCOMPARE(NationTable::family(region, position),
+                     NationTable::familyOf(NationTable::Lists(NationTable::RegionCount), region, nation));
+        }
     }
 
     void helpTexts()
@@ -354,8 +371,7 @@ private slots:
     void missingFilesLeaveEmptyPlaces()
     {
         WorkingFolder folder;
-        GameManager::instance().resetWorld();
-        GameManager::instance().loadDefaultWorld();
+        GameManager::instance().takeWorld(DefaultWorld::read());
         const World empty = World::running();
         QCOMPARE(GameManager::instance().organisationNames(), OrgTable::names());
         QVERIFY(empty.worldMen().isEmpty());

@@ -5,7 +5,6 @@
 #include "world/GameManager.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
@@ -74,8 +73,7 @@ inline QPushButton *screenButton(const QString &text)
     return nullptr;
 }
 
-template <typename T>
-T *screenWidget(const QString &name)
+template <typename T> T *screenWidget(const QString &name)
 {
     return ModuleManager::instance().currentModule()->findChild<T *>(name);
 }
@@ -83,13 +81,7 @@ T *screenWidget(const QString &name)
 // the world as a save holds it: two worlds are equal when these bytes are
 inline QByteArray worldBytes()
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QDataStream out(&buffer);
-    out.setVersion(StreamForm::version);
-    GameManager::instance().writeTo(out);
-    return bytes;
+    return GameManager::instance().state().bytes();
 }
 
 // a nations file of the default data: one list for each of the eight regions

@@ -22,7 +22,7 @@ const QDate Today(2011, 3, 1);
 bool loadWorld(bool userNightToday, int userNights = 1)
 {
     WorldSamples::World w;
-    w.date = Today;
+    w.currentDate = Today;
     QList<Entity_Event> calendar;
     for (int i = 0; i < userNights; ++i)
         calendar << WorldSamples::bookedEvent(WorldSamples::makeEvent("Night " + QString::number(i), Org, Today, {}),

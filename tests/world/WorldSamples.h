@@ -105,12 +105,12 @@ template <typename Record> Record readBack(const QByteArray &bytes, QDataStream:
     return record;
 }
 
-// A whole world written in the order of a save file, to be read by GameManager::readFrom.
+// A whole world of the first of March, to be made the running one.
 struct World : SavedWorld {
     World()
     {
         nextId = 1100;
-        date = QDate(2011, 3, 1);
+        currentDate = QDate(2011, 3, 1);
     }
 };
 

@@ -1,6 +1,7 @@
 #include "WorldSamples.h"
 
 #include "fighters/Random.h"
+#include "persistence/DefaultWorld.h"
 #include "world/BookingRound.h"
 
 #include <QRegularExpression>
@@ -161,27 +162,10 @@ QString faultsOf(const Entity_Event &night)
     return {};
 }
 
-// the offers of the running world, read from its own save stream
+// the offers of the running world
 QList<Entity_Booking> currentOffers()
 {
-    QDataStream in(savedWorld());
-    in.setVersion(StreamForm::version);
-    qint32 id;
-    QDate date;
-    Entity_Manager manager;
-    Entity_Gym gym;
-    QList<Entity_Fighter> students;
-    QList<Entity_GymFighter> fighters;
-    QList<Entity_Org> orgs;
-    QMultiMap<int, Entity_Fighter> freeAgents;
-    QList<Entity_Booking> offers;
-    in >> id >> date >> manager >> gym;
-    StreamForm::readList(in, students);
-    StreamForm::readList(in, fighters);
-    StreamForm::readList(in, orgs);
-    StreamForm::readMultiMap(in, freeAgents);
-    StreamForm::readList(in, offers);
-    return offers;
+    return GameManager::instance().state().offers;
 }
 
 // One promotion, one night ahead, and what a day of booking must make of it.
@@ -207,7 +191,7 @@ struct Scene {
     World world() const
     {
         World w;
-        w.date = Today;
+        w.currentDate = Today;
         QList<Entity_Match> cards = card;
         QList<Entity_GymFighter> men;
         if (userPosition != -99)
@@ -322,8 +306,10 @@ private slots:
             QVERIFY(scene.world().load());
             const int before = allPlacesTaken();
             Random::useTestClock(seed);
-            BookingRound round(GameManager::instance());
+            WorldState world = GameManager::instance().state();
+            BookingRound round(world);
             const QStringList news = round.run();
+            GameManager::instance().takeWorld(world);
             const Entity_Event night = nextNight();
 
             QCOMPARE(allPlacesTaken() - before, int(news.size()));
@@ -363,8 +349,7 @@ private slots:
 
     void theDefaultWorldBooksSixtyDays()
     {
-        GameManager::instance().resetWorld();
-        GameManager::instance().loadDefaultWorld();
+        GameManager::instance().takeWorld(DefaultWorld::read());
         if (GameManager::instance().organisationNames().isEmpty())
             QSKIP("this build holds no default world");
         Random::useTestClock(2011);
@@ -413,14 +398,14 @@ private:
     static World busyWorld()
     {
         World world;
-        world.date = QDate(2011, 1, 1);
+        world.currentDate = QDate(2011, 1, 1);
         QMap<QString, QList<Entity_Event>> calendars;
         const auto nights = [&](const QString &org, const QStringList &card, int first, int every, int count,
                                 const QString &title = "No Title") {
             for (int i = 0; i < count; ++i) {
                 const int day = first + i * every;
-                calendars[org].append(makeEvent(QString("%1 Night %2").arg(org).arg(day), org, world.date.addDays(day),
-                                                cardOf(card), title));
+                calendars[org].append(makeEvent(QString("%1 Night %2").arg(org).arg(day), org,
+                                                world.currentDate.addDays(day), cardOf(card), title));
             }
         };
         const QStringList plain(8, S);
@@ -453,7 +438,7 @@ private:
                           gymMan(902, "Frost", 20, "Alpha League"),     gymMan(903, "Ember", 4, "Beta Circuit"),
                           gymMan(904, "Cinder", 0, "Gamma Promotions"), gymMan(905, "Flint", 6, "Free Agent")};
         for (const Entity_GymFighter &man : std::as_const(world.fighters))
-            world.bookings.append(Entity_Booking::emptyFor(man.getId(), man.fullName(), world.date));
+            world.bookings.append(Entity_Booking::emptyFor(man.getId(), man.fullName(), world.currentDate));
         return world;
     }
 };

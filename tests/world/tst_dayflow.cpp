@@ -1,5 +1,6 @@
 #include "WorldSamples.h"
 
+#include "persistence/NameFiles.h"
 #include "world/DayFlow.h"
 #include "world/RankMove.h"
 #include "world/WorldInvariants.h"
@@ -32,7 +33,7 @@ Entity_Fighter fitMan(int id, const QString &last, int score)
 World worldWith(const QList<Entity_Match> &card, const QDate &date = Today)
 {
     World w;
-    w.date = date;
+    w.currentDate = date;
     for (int i = 0; i < 3; ++i)
         w.students.append(fighter(2000, "Stu", "Dent" + QString::number(i), 0));
     const QList<Entity_Event> calendar{makeEvent(NightName, Org, date, card, Title)};
@@ -58,7 +59,7 @@ DayRun runDay()
     DayRun day;
     GameManager &world = GameManager::instance();
     DayFlow flow(
-        world, [&](const QString &paragraph) { day.paragraphs << paragraph; },
+        world, NameFiles::book(), [&](const QString &paragraph) { day.paragraphs << paragraph; },
         [&](int step) {
             day.steps << step;
             day.datesAtSteps << world.getCurrentDate();
@@ -124,7 +125,7 @@ private slots:
         QCOMPARE(day.paragraphs.mid(0, expectedStart.size()), expectedStart);
         QCOMPARE(day.paragraphs.last(), QString());
         QCOMPARE(GameManager::instance().organisation(Org).willingness(), QString("Willing"));
-        QVERIFY(WorldInvariants::check(GameManager::instance()).isEmpty());
+        QVERIFY(WorldInvariants::check(GameManager::instance().state()).isEmpty());
     }
 
     // a night of the user's is his fight night, not the world's; an open place fights nobody
@@ -153,7 +154,7 @@ private slots:
                                             {fitMan(101, "Alpha", 100), fitMan(102, "Bravo", 200)}));
         QVERIFY(w.load());
         GameManager &world = GameManager::instance();
-        DayFlow flow(world, [](const QString &) {});
+        DayFlow flow(world, NameFiles::book(), [](const QString &) {});
         flow.run();
         QCOMPARE(flow.tally().matches, matches);
         QCOMPARE(tonight().results().size(), matches);
@@ -217,7 +218,7 @@ private slots:
                  crowned ? world.rosterFighter(Org, outcome.winnerId).fullName() : QString("Vacant"));
         QCOMPARE(outcome.titleChanged, crowned);
         QCOMPARE(outcome.advancingId, handedOn ? outcome.winnerId : 0);
-        QVERIFY(WorldInvariants::check(world).isEmpty());
+        QVERIFY(WorldInvariants::check(world.state()).isEmpty());
     }
 
     // a winner who fights on is named in the results on the line right after his match

@@ -21,7 +21,7 @@ World smallWorld()
 {
     World w;
     w.nextId = 1100;
-    w.date = today;
+    w.currentDate = today;
     QList<int> gymValues = w.gym.values();
     gymValues[Entity_Gym::FighterSlots] = 2;
     QStringList gymStrings = w.gym.strings();
@@ -213,7 +213,7 @@ private slots:
     void theNewYear()
     {
         World w = smallWorld();
-        w.date = QDate(2011, 1, 1);
+        w.currentDate = QDate(2011, 1, 1);
         QVERIFY(w.load());
         world().dropOldTitles();
         world().rollOverEvents();

@@ -4,6 +4,7 @@
 #include "persistence/DataFile.h"
 #include "persistence/DefaultFiles.h"
 #include "persistence/DefaultWorld.h"
+#include "persistence/NameFiles.h"
 #include "world/OrgTable.h"
 
 #include <QDir>
@@ -47,7 +48,7 @@ bool DefaultsOutput::write(const QString &folder, const SourceData &source, cons
         },
         faults);
     NationTable::Lists readBack;
-    if (!NationTable::read(readBack, nations) || readBack != source.nations)
+    if (!NameFiles::readNations(readBack, nations) || readBack != source.nations)
         faults.append(nations + ": reads back as other lists");
 
     for (auto it = source.names.cbegin(); it != source.names.cend(); ++it) {
@@ -60,7 +61,7 @@ bool DefaultsOutput::write(const QString &folder, const SourceData &source, cons
                 StreamForm::writeStringList(out, names.last);
             },
             faults);
-        const FighterGenerator::Names back = FighterGenerator::readNames(file);
+        const FighterGenerator::Names back = NameFiles::readNames(file);
         if (back.first != names.first || back.last != names.last)
             faults.append(file + ": reads back as other names");
     }

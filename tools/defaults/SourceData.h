@@ -1,7 +1,7 @@
 #pragma once
 
-#include "persistence/FighterGenerator.h"
-#include "persistence/NationTable.h"
+#include "fighters/FighterGenerator.h"
+#include "fighters/NationTable.h"
 
 #include <QDate>
 #include <QList>

@@ -3,8 +3,8 @@
 #include "SourceData.h"
 
 #include "fighters/Entity_Fighter.h"
+#include "fighters/FighterGenerator.h"
 #include "persistence/DefaultWorld.h"
-#include "persistence/FighterGenerator.h"
 #include "world/Entity_Org.h"
 
 #include <QList>

@@ -17,9 +17,9 @@
 #include "MatchesRun.h"
 #include "WorldReport.h"
 
-#include "fighters/Entity_Gym.h"
-#include "fighters/Entity_Manager.h"
 #include "fighters/Random.h"
+#include "persistence/DefaultWorld.h"
+#include "persistence/NameFiles.h"
 #include "persistence/SaveFile.h"
 #include "world/DayFlow.h"
 #include "world/GameManager.h"
@@ -87,16 +87,18 @@ bool parse(const QStringList &args, Options &options)
 }
 
 // the new game of a user who takes every default: the manager's skills at their lowest
-void startNewGame(GameManager &world)
+GameManager::NewGame plainNewGame()
 {
-    world.resetWorld();
-    const Entity_Manager manager;
-    world.setManager({"Sim", "Manager", "Asia", "Japan", manager.text(Entity_Manager::ManagerReputation)},
-                     manager.values(), {});
-    const Entity_Gym gym;
-    world.setGym({"Sim Gym", "Kickboxing", "Black", "Red", gym.text(Entity_Gym::GymPrestige)}, gym.values(),
-                 gym.ledger());
-    world.loadDefaultWorld();
+    GameManager::NewGame choices;
+    choices.firstName = "Sim";
+    choices.lastName = "Manager";
+    choices.region = "Asia";
+    choices.nation = "Japan";
+    choices.gymName = "Sim Gym";
+    choices.gymStyle = "Kickboxing";
+    choices.primaryColour = "Black";
+    choices.secondaryColour = "Red";
+    return choices;
 }
 
 // the default files lie beside the game, in ./Resources/Defaults
@@ -121,7 +123,7 @@ int fightMatches(const QStringList &args)
     if (!defaultWorldHere())
         return 1;
     GameManager &world = GameManager::instance();
-    startNewGame(world);
+    world.startNewGame(plainNewGame(), DefaultWorld::read());
     MatchesRun run(world);
     if (!run.hasPairs()) {
         QTextStream(stderr) << "no roster of the default world holds two men\n";
@@ -154,7 +156,7 @@ int main(int argc, char *argv[])
     if (options.load.isEmpty()) {
         if (!defaultWorldHere())
             return 1;
-        startNewGame(world);
+        world.startNewGame(plainNewGame(), DefaultWorld::read());
     } else {
         QString reason;
         if (!SaveFile::loadFrom(options.load, &reason)) {
@@ -165,6 +167,7 @@ int main(int argc, char *argv[])
     out << "World of " << world.getCurrentDate().toString(Qt::TextDate) << ", " << options.days << " days"
         << (options.seeded ? QString(", seed %1").arg(options.seed) : QString()) << '\n';
 
+    const FighterGenerator::NameBook names = NameFiles::book();
     WorldReport report(options.times);
     DayFlow::Print print = [&](const QString &paragraph) {
         if (options.news)
@@ -175,13 +178,13 @@ int main(int argc, char *argv[])
         const QDate today = world.getCurrentDate();
         if (report.hasDays() && today.year() != report.year())
             out << report.finishYear(world).join('\n') << '\n';
-        DayFlow flow(world, print);
+        DayFlow flow(world, names, print);
         QElapsedTimer clock;
         clock.start();
         flow.run();
         report.addDay(today, flow.tally(), clock.nsecsElapsed() / 1000, world);
         if (options.check) {
-            const QStringList faults = WorldInvariants::check(world);
+            const QStringList faults = WorldInvariants::check(world.state());
             if (!faults.isEmpty()) {
                 out << "The world broke on " << today.toString(Qt::TextDate) << ":\n" << faults.join('\n') << '\n';
                 result = 1;

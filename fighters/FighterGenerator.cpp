@@ -1,15 +1,8 @@
-#include "persistence/FighterGenerator.h"
-#include "fighters/GameLists.h"
+#include "fighters/FighterGenerator.h"
 
-#include "fighters/Entity_Gym.h"
-#include "fighters/Entity_Manager.h"
 #include "fighters/FighterTraits.h"
+#include "fighters/GameLists.h"
 #include "fighters/Random.h"
-#include "fighters/ReputationScale.h"
-#include "fighters/StreamForm.h"
-#include "persistence/DataFile.h"
-#include "persistence/DefaultFiles.h"
-#include "world/GameManager.h"
 
 #include <algorithm>
 
@@ -17,8 +10,6 @@ namespace {
 
 // random draws before the generator walks through every pair of names in turn
 constexpr int RandomNameDraws = 200;
-// a student has no id of his own until he turns professional
-constexpr int StudentId = 2000;
 constexpr int NewRankingScore = 8000;
 constexpr int NewAge = 18;
 
@@ -76,14 +67,16 @@ FighterGenerator::Origin FighterGenerator::chooseOrigin(const NationTable::Lists
     return anywhere();
 }
 
-FighterGenerator::Names FighterGenerator::readNames(const QString &path)
+NationTable::Lists FighterGenerator::nationsOf(const NameBook &book)
 {
-    Names names;
-    if (!DataFile::read(path, [&names](QDataStream &in) {
-            StreamForm::readStringList(in, names.first);
-            StreamForm::readStringList(in, names.last);
-        }))
-        names = {};
+    NationTable::Lists lists = book.nations ? book.nations() : NationTable::Lists();
+    lists.resize(NationTable::RegionCount);
+    return lists;
+}
+
+FighterGenerator::Names FighterGenerator::namesOf(const NameBook &book, const QString &family)
+{
+    Names names = book.names ? book.names(family) : Names();
     if (names.first.isEmpty())
         names.first = QStringList{GameLists::NoRecord};
     if (names.last.isEmpty())
@@ -188,68 +181,4 @@ Entity_Fighter FighterGenerator::makePerson(const Origin &origin, const QString 
     const int day = qrand() % 28 + 1;
     man.setBirthDate(QDate(recipe.today.year() - NewAge, month, day));
     return man;
-}
-
-QSet<QString> FighterGenerator::takenNames(const GameManager &game)
-{
-    QSet<QString> names;
-    for (const Entity_Fighter &man : game.students)
-        names.insert(man.fullName());
-    for (const Entity_GymFighter &man : game.fighters)
-        names.insert(man.fullName());
-    for (const Entity_Fighter &man : game.freeAgents)
-        names.insert(man.fullName());
-    for (const Entity_Fighter &man : game.amateurs)
-        names.insert(man.fullName());
-    for (const Entity_Org &organisation : game.organisations) {
-        Entity_Org::Roster roster;
-        organisation.rosterCopy(roster);
-        for (const Entity_Fighter &man : std::as_const(roster))
-            names.insert(man.fullName());
-    }
-    return names;
-}
-
-bool FighterGenerator::generate(GameManager &game, QString &nameOut, bool forGym)
-{
-    if (forGym && game.students.size() >= game.gym->value(Entity_Gym::StudentSlots))
-        return false;
-
-    Random::seedFromClock();
-    NationTable::Lists nations;
-    NationTable::read(nations, DefaultFiles::path(DefaultFiles::nationsFile()));
-    const Origin origin = chooseOrigin(nations, forGym, game.manager->text(Entity_Manager::Nationality),
-                                       game.manager->text(Entity_Manager::Region));
-    const QString family = NationTable::familyOf(nations, origin.region, origin.nation);
-    const Names names = readNames(DefaultFiles::path(DefaultFiles::namesFile(family)));
-    QString first;
-    QString last;
-    // with every name of the family in use nobody is made, and no id is spent
-    if (!drawName(names, takenNames(game), first, last))
-        return false;
-
-    Recipe recipe;
-    recipe.forGym = forGym;
-    recipe.today = game.currentDate;
-    if (forGym) {
-        recipe.gymStyle = game.gym->text(Entity_Gym::GymStyle);
-        recipe.gymShorts = game.gym->text(Entity_Gym::GymShortsColour);
-        recipe.gymTrim = game.gym->text(Entity_Gym::GymTrimColour);
-        // a better known gym and manager draw better students
-        recipe.grade =
-            std::max(0, ReputationScale::bandOfLabel(ReputationScale::Gym, game.gym->text(Entity_Gym::GymPrestige))) +
-            std::max(0, ReputationScale::bandOfLabel(ReputationScale::Manager,
-                                                     game.manager->text(Entity_Manager::ManagerReputation)));
-        recipe.seer = game.manager->value(Entity_Manager::Intuition);
-    }
-    Entity_Fighter man = makePerson(origin, first, last, recipe);
-    nameOut = man.fullName();
-    if (forGym) {
-        man.setId(StudentId);
-        game.students.append(man);
-        return true;
-    }
-    man.setId(++game.nextId);
-    game.freeAgents.insert(man.getRankingScore(), man);
-    return false;
 }

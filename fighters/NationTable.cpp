@@ -1,7 +1,4 @@
-#include "persistence/NationTable.h"
-
-#include "fighters/StreamForm.h"
-#include "persistence/DataFile.h"
+#include "fighters/NationTable.h"
 
 #include <algorithm>
 #include <array>
@@ -163,18 +160,4 @@ QString NationTable::familyOf(const Lists &lists, int region, const QString &nat
     if (main >= 0)
         return mainNations[main].family;
     return family(region, -1);
-}
-
-bool NationTable::read(Lists &lists, const QString &path)
-{
-    Lists read;
-    const bool ok = DataFile::read(path, [&read](QDataStream &in) {
-        for (int region = 0; region < RegionCount; ++region) {
-            QStringList nations;
-            StreamForm::readStringList(in, nations);
-            read.append(nations);
-        }
-    });
-    lists = ok ? read : Lists(RegionCount);
-    return ok;
 }

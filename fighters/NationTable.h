@@ -29,7 +29,4 @@ public:
     // the family of a man of `nation`: by its place in the lists, or for a nation that the lists
     // don't hold (no nation file) by the main list, or else the region's common family
     static QString familyOf(const Lists &lists, int region, const QString &nation);
-
-    // the eight lists of the nation file; false, and eight empty lists, when it can't be read
-    static bool read(Lists &lists, const QString &path);
 };

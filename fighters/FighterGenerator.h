@@ -1,25 +1,21 @@
 #pragma once
 
 #include "fighters/Entity_Fighter.h"
-#include "persistence/NationTable.h"
+#include "fighters/NationTable.h"
 
 #include <QDate>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 
-class GameManager;
+#include <functional>
 
-// Brings new persons into the world: a student for the user's gym, or a free agent of the world.
-// The steps are public because the tool that makes the first world builds its men with them.
+// The rules of a new person: where he comes from, his name, and what he is made of. The world
+// brings in its new students and free agents with them, and the tool that makes the first world
+// builds its men with the same steps.
 class FighterGenerator
 {
 public:
-    // Makes one person. With `forGym` a student joins the gym, unless it is full or no free name
-    // is left, and the result is true; without it a free agent takes the next id, and the result
-    // is false. `nameOut` gets the full name of the man made.
-    static bool generate(GameManager &game, QString &nameOut, bool forGym);
-
     struct Origin {
         int region = 0;
         QString nation;
@@ -36,8 +32,17 @@ public:
         QStringList first;
         QStringList last;
     };
-    // the two lists of a family file, each with the single entry "N/A" when it came up empty
-    static Names readNames(const QString &path);
+    // What new men are drawn from: the nations of the eight regions, and the first and last
+    // names of a family. The game reads them from its files when a man is made; a test may hand
+    // in lists of its own.
+    struct NameBook {
+        std::function<NationTable::Lists()> nations;
+        std::function<Names(const QString &family)> names;
+    };
+    // the book's eight lists; empty ones for a book without them
+    static NationTable::Lists nationsOf(const NameBook &book);
+    // the book's names of a family, each list with the single entry "N/A" when it came up empty
+    static Names namesOf(const NameBook &book, const QString &family);
     // A first and a last name whose full name nobody in `taken` bears. After a bounded number of
     // random draws every pair is tried once from a random place; false when all are taken.
     static bool drawName(const Names &names, const QSet<QString> &taken, QString &first, QString &last);
@@ -59,7 +64,4 @@ public:
     // and birth date. Id 0 and ranking score 8000; the attributes are left unclamped.
     static Entity_Fighter makePerson(const Origin &origin, const QString &first, const QString &last,
                                      const Recipe &recipe);
-
-    // the full names of every man of the world and the gym
-    static QSet<QString> takenNames(const GameManager &game);
 };

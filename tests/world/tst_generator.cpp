@@ -1,0 +1,331 @@
+#include "WorldSamples.h"
+
+#include "fighters/FighterGenerator.h"
+#include "fighters/FighterTraits.h"
+#include "fighters/NationTable.h"
+#include "fighters/Random.h"
+
+#include <QSet>
+#include <QtTest>
+
+using F = Entity_Fighter;
+using namespace WorldSamples;
+
+namespace {
+
+// every region's main nations and then made-up ones; Fiji stands among Oceania's
+NationTable::Lists regionLists()
+{
+    NationTable::Lists lists(NationTable::RegionCount);
+    for (int i = 0; i < NationTable::MainCount; ++i)
+        lists[NationTable::mainRegion(i)].append(NationTable::mainNation(i));
+    for (int region = 0; region < NationTable::RegionCount; ++region)
+        for (int extra = 0; extra < 6; ++extra)
+            lists[region].append(QString("Land %1-%2").arg(region).arg(extra));
+    lists[NationTable::regionIndex("Oceania")][4] = "Fiji";
+    return lists;
+}
+
+// every family gives the same names: `count` first names and `count` last names
+FighterGenerator::NameBook bookOf(int count)
+{
+    FighterGenerator::Names names;
+    for (int i = 0; i < count; ++i) {
+        names.first.append(QString("First%1").arg(i));
+        names.last.append(QString("Last%1").arg(i));
+    }
+    return {[] { return regionLists(); }, [names](const QString &) { return names; }};
+}
+
+// a world of the first day whose manager and gym are as given
+void startWith(const QString &nation, const QString &region, int intuition = 5, int studentSlots = 3)
+{
+    World world;
+    world.nextId = 1058;
+    QList<int> managerValues(Entity_Manager::ValueCount, 0);
+    managerValues[Entity_Manager::Intuition] = intuition;
+    world.manager.unpack({"Ken", "Saito", region, nation, "Unknown"}, managerValues, {});
+    QList<int> gymValues = world.gym.values();
+    gymValues[Entity_Gym::StudentSlots] = studentSlots;
+    world.gym.unpack({"Tiger Den", "Muay Thai", "Gold", "Black", "Unknown"}, gymValues, world.gym.ledger());
+    GameManager::instance().takeWorld(world);
+}
+
+const WorldState &running()
+{
+    return GameManager::instance().state();
+}
+
+} // namespace
+
+// The making of new persons: students for the gym and free agents for the world.
+class tst_Generator : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Random::useTestClock(5150); }
+    void cleanup() { GameManager::instance().resetWorld(); }
+
+    void qualityBands_data()
+    {
+        QTest::addColumn<int>("roll");
+        QTest::addColumn<int>("bonus");
+        QTest::newRow("0 stands as it is") << 0 << 0;
+        QTest::newRow("9 stands as it is") << 9 << 9;
+        QTest::newRow("10 gives 3") << 10 << 3;
+        QTest::newRow("29 gives 3") << 29 << 3;
+        QTest::newRow("30 gives 6") << 30 << 6;
+        QTest::newRow("49 gives 6") << 49 << 6;
+        QTest::newRow("50 gives 9") << 50 << 9;
+        QTest::newRow("64 gives 9") << 64 << 9;
+        QTest::newRow("65 gives 12") << 65 << 12;
+        QTest::newRow("70 gives 12") << 70 << 12;
+    }
+    void qualityBands()
+    {
+        QFETCH(int, roll);
+        QFETCH(int, bonus);
+        QCOMPARE(FighterGenerator::qualityBonus(roll), bonus);
+    }
+
+    void idsComeFromTheCounter_data()
+    {
+        QTest::addColumn<QList<bool>>("forGym");
+        QTest::addColumn<QList<int>>("ids");
+        QTest::addColumn<int>("counter");
+        QTest::newRow("the first free agent takes 1059") << QList<bool>{false} << QList<int>{1059} << 1059;
+        QTest::newRow("the second takes 1060") << QList<bool>{false, false} << QList<int>{1059, 1060} << 1060;
+        QTest::newRow("a student holds 2000 and spends no id")
+            << QList<bool>{false, true, false} << QList<int>{1059, 2000, 1060} << 1060;
+        QTest::newRow("students alone leave the counter at 1058")
+            << QList<bool>{true, true} << QList<int>{2000, 2000} << 1058;
+    }
+    void idsComeFromTheCounter()
+    {
+        QFETCH(QList<bool>, forGym);
+        QFETCH(QList<int>, ids);
+        QFETCH(int, counter);
+        startWith("Japan", "East Asia");
+        GameManager &game = GameManager::instance();
+        QList<int> made;
+        for (bool student : forGym) {
+            QString name;
+            QCOMPARE(game.generateFighter(bookOf(30), name, student), student);
+            const QList<F> men = student ? running().students : running().freeAgents.values();
+            for (const F &man : men)
+                if (man.fullName() == name)
+                    made.append(man.getId());
+        }
+        QCOMPARE(made, ids);
+        QCOMPARE(game.getNextId(), counter);
+    }
+
+    // origins over many draws: where the men come from, by the rules of free agents and students
+    void originRules_data()
+    {
+        QTest::addColumn<bool>("forGym");
+        QTest::addColumn<QString>("managerNation");
+        QTest::addColumn<QString>("managerRegion");
+        QTest::addColumn<double>("nationLow"); // share of the manager's nation
+        QTest::addColumn<double>("nationHigh");
+        QTest::addColumn<double>("regionLow"); // share of the manager's region
+        QTest::addColumn<double>("regionHigh");
+        QTest::addColumn<double>("mainLow"); // share of main nations
+        QTest::newRow("free agents mostly from the main list") << false << ""
+                                                               << "" << 0.0 << 1.0 << 0.0 << 1.0 << 0.80;
+        QTest::newRow("students of a main nation's manager") << true << "Japan"
+                                                             << "East Asia" << 0.70 << 0.90 << 0.88 << 1.0 << 0.70;
+        QTest::newRow("students of a small nation's manager: never simply copied")
+            << true << "Fiji"
+            << "Oceania" << 0.0 << 0.15 << 0.62 << 0.80 << 0.0;
+        QTest::newRow("students of a manager from nowhere") << true << ""
+                                                            << "" << 0.0 << 0.0 << 0.0 << 0.0 << 0.0;
+    }
+    void originRules()
+    {
+        QFETCH(bool, forGym);
+        QFETCH(QString, managerNation);
+        QFETCH(QString, managerRegion);
+        QFETCH(double, nationLow);
+        QFETCH(double, nationHigh);
+        QFETCH(double, regionLow);
+        QFETCH(double, regionHigh);
+        QFETCH(double, mainLow);
+        const NationTable::Lists lists = regionLists();
+        constexpr int draws = 3000;
+        int sameNation = 0;
+        int sameRegion = 0;
+        int main = 0;
+        QSet<int> regions;
+        for (int i = 0; i < draws; ++i) {
+            const FighterGenerator::Origin origin =
+                FighterGenerator::chooseOrigin(lists, forGym, managerNation, managerRegion);
+            QVERIFY2(lists.value(origin.region).contains(origin.nation), qPrintable(origin.nation));
+            sameNation += origin.nation == managerNation;
+            sameRegion += NationTable::regions().value(origin.region) == managerRegion;
+            main += NationTable::mainIndex(origin.nation) >= 0;
+            regions.insert(origin.region);
+        }
+        const auto within = [](int count, double low, double high) {
+            const double share = double(count) / draws;
+            return share >= low && share <= high;
+        };
+        QVERIFY2(within(sameNation, nationLow, nationHigh), qPrintable(QString::number(sameNation)));
+        QVERIFY2(within(sameRegion, regionLow, regionHigh), qPrintable(QString::number(sameRegion)));
+        QVERIFY2(within(main, mainLow, 1.0), qPrintable(QString::number(main)));
+        // one time in four or in three a man comes from anywhere at all
+        QCOMPARE(regions.size(), NationTable::RegionCount);
+    }
+
+    void nameRetryIsBounded_data()
+    {
+        QTest::addColumn<QStringList>("first");
+        QTest::addColumn<QStringList>("last");
+        QTest::addColumn<QStringList>("taken");
+        QTest::addColumn<QString>("expected"); // empty: nobody can be named
+        QTest::newRow("a free pair is found")
+            << QStringList{"Anton", "Boris"} << QStringList{"Cole"} << QStringList{"Anton Cole"} << "Boris Cole";
+        QTest::newRow("every pair taken ends without a name")
+            << QStringList{"Anton"} << QStringList{"Cole"} << QStringList{"Anton Cole"} << "";
+        QStringList first;
+        QStringList last;
+        QStringList taken;
+        for (int i = 0; i < 30; ++i) {
+            first.append(QString("First%1").arg(i));
+            last.append(QString("Last%1").arg(i));
+        }
+        for (const QString &f : std::as_const(first))
+            for (const QString &l : std::as_const(last))
+                taken.append(f + ' ' + l);
+        const QString free = taken.takeAt(517);
+        QTest::newRow("the one free pair of 900 is found") << first << last << taken << free;
+    }
+    void nameRetryIsBounded()
+    {
+        QFETCH(QStringList, first);
+        QFETCH(QStringList, last);
+        QFETCH(QStringList, taken);
+        QFETCH(QString, expected);
+        const QSet<QString> takenSet(taken.cbegin(), taken.cend());
+        QString f;
+        QString l;
+        const bool found = FighterGenerator::drawName({first, last}, takenSet, f, l);
+        QCOMPARE(found, !expected.isEmpty());
+        if (found)
+            QCOMPARE(f + ' ' + l, expected);
+    }
+
+    // Six first and six last names make 36 men, every one named apart from everybody of the
+    // world and the gym; after that nobody can be made, no id is spent and no list grows.
+    void everyNameOnceThenNobody()
+    {
+        startWith("Japan", "East Asia", 5, 40);
+        GameManager &game = GameManager::instance();
+        QSet<QString> names;
+        for (int i = 0; i < 36; ++i) {
+            QString name;
+            game.generateFighter(bookOf(6), name, i % 3 == 0);
+            names.insert(name);
+        }
+        QCOMPARE(names.size(), 36);
+        QCOMPARE(game.getNextId(), 1058 + 24);
+
+        QString none = "unchanged";
+        QVERIFY(!game.generateFighter(bookOf(6), none, false));
+        QVERIFY(!game.generateFighter(bookOf(6), none, true));
+        QCOMPARE(none, QString("unchanged"));
+        QCOMPARE(game.getNextId(), 1058 + 24);
+        QCOMPARE(running().freeAgents.size() + running().students.size(), 36);
+    }
+
+    // without nations or names a man is still made, from the main list and named "N/A"
+    void anEmptyBookStillMakesAMan()
+    {
+        startWith("Thailand", "Oceania");
+        QString name;
+        QVERIFY(!GameManager::instance().generateFighter({}, name, false));
+        QCOMPARE(name, QString("N/A N/A"));
+        const F man = running().freeAgents.first();
+        const int main = NationTable::mainIndex(man.text(F::Nationality));
+        QVERIFY(main >= 0);
+        QCOMPARE(man.text(F::Region), NationTable::regions().at(NationTable::mainRegion(main)));
+    }
+
+    void traitsShownByIntuition_data()
+    {
+        QTest::addColumn<int>("intuition");
+        QTest::newRow("Intuition 0 sees no trait") << 0;
+        QTest::newRow("Intuition 3 sees the plain ones") << 3;
+        QTest::newRow("Intuition 7 sees most") << 7;
+        QTest::newRow("Intuition 10 sees them all") << 10;
+    }
+    void traitsShownByIntuition()
+    {
+        QFETCH(int, intuition);
+        startWith("Japan", "East Asia", intuition, 200);
+        GameManager &game = GameManager::instance();
+        int shown = 0;
+        for (int i = 0; i < 120; ++i) {
+            QString name;
+            QVERIFY(game.generateFighter(bookOf(30), name, true));
+            const QStringList lines = running().students[i].text(F::Bio).split('\n');
+            QCOMPARE(lines.first(), QString("New Fighter"));
+            for (const QString &trait : lines.mid(1)) {
+                if (trait.isEmpty())
+                    continue;
+                QVERIFY2(FighterTraits::shownFrom(trait) <= intuition, qPrintable(trait));
+                ++shown;
+            }
+        }
+        QCOMPARE(shown > 0, intuition > 0);
+    }
+
+    void studentCarriesTheGym()
+    {
+        startWith("Japan", "East Asia", 5, 2);
+        GameManager &game = GameManager::instance();
+        for (int i = 0; i < 2; ++i) {
+            QString name;
+            QVERIFY(game.generateFighter(bookOf(30), name, true));
+            const F student = running().students[i];
+            QCOMPARE(student.text(F::ShortsColour), QString("Gold"));
+            QCOMPARE(student.text(F::TrimColour), QString("Black"));
+            QCOMPARE(student.text(F::Organisation), QString("Free Agent"));
+            QCOMPARE(student.number(F::Age), 18);
+            QCOMPARE(student.number(F::RankingScore), 8000);
+            QCOMPARE(student.getBirthDate().year(), 1993);
+            QVERIFY(student.history().isEmpty() && student.titleList().isEmpty());
+        }
+        // a full gym declines at once
+        QString name = "unchanged";
+        QVERIFY(!game.generateFighter(bookOf(30), name, true));
+        QCOMPARE(name, QString("unchanged"));
+        QCOMPARE(running().students.size(), 2);
+    }
+
+    void freeAgentFields()
+    {
+        startWith("Japan", "East Asia");
+        GameManager &game = GameManager::instance();
+        for (int i = 0; i < 100; ++i) {
+            QString name;
+            game.generateFighter(bookOf(30), name, false);
+        }
+        const QList<F> agents = running().freeAgents.values();
+        QCOMPARE(agents.size(), 100);
+        for (const F &man : agents) {
+            QVERIFY(man.number(F::BodyImage) >= 1 && man.number(F::BodyImage) <= 21);
+            QVERIFY(man.number(F::HeadImage) >= 1 && man.number(F::HeadImage) <= 7);
+            QVERIFY(man.number(F::FaceImage) >= 1 && man.number(F::FaceImage) <= 4);
+            QVERIFY(man.number(F::HeadDurability) <= 99 && man.number(F::BodyDurability) <= 99);
+            QVERIFY(man.getBirthDate().day() <= 28);
+            // a free agent's bio tells every trait he has
+            for (const QString &line : man.text(F::Bio).split('\n').mid(1))
+                QVERIFY(line.isEmpty() || FighterTraits::drawList().contains(line));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Generator)
+#include "tst_generator.moc"

@@ -1,0 +1,109 @@
+#include "world/WorldRosters.h"
+
+#include "world/WorldState.h"
+
+WorldRosters::WorldRosters(WorldState &world)
+    : world(world)
+{
+}
+
+QStringList WorldRosters::organisationNames() const
+{
+    QStringList names;
+    for (const Entity_Org &org : world.organisations)
+        names.append(org.name());
+    return names;
+}
+
+QStringList WorldRosters::organisationTexts(const QString &orgName) const
+{
+    QStringList texts;
+    if (const Entity_Org *org = world.organisationNamed(orgName))
+        org->strings(texts);
+    return texts;
+}
+
+Entity_Org WorldRosters::organisation(const QString &orgName) const
+{
+    const Entity_Org *org = world.organisationNamed(orgName);
+    return org ? *org : Entity_Org();
+}
+
+void WorldRosters::organisationRanking(const QString &orgName, QMultiMap<int, QString> &ranking) const
+{
+    const Entity_Org *org = world.organisationNamed(orgName);
+    if (!org)
+        return;
+    Entity_Org::Roster copy;
+    org->rosterCopy(copy);
+    for (const Entity_GymFighter &fighter : world.fighters) {
+        if (fighter.text(Entity_Fighter::Organisation) == orgName)
+            copy.insert(fighter.getRankingScore(), fighter.fighter());
+    }
+    // inserted one after the other: among equal scores the last one in stands first
+    for (auto it = copy.cbegin(); it != copy.cend(); ++it)
+        ranking.insert(it.key(), it.value().fullName());
+}
+
+Entity_Fighter WorldRosters::rosterFighter(const QString &orgName, int id) const
+{
+    const Entity_Org *org = world.organisationNamed(orgName);
+    return org ? org->rosterFighter(id) : Entity_Fighter();
+}
+
+void WorldRosters::addRankingScore(const QString &orgName, int id, int delta)
+{
+    if (Entity_Org *org = world.organisationNamed(orgName))
+        org->addRankingScore(id, delta);
+}
+
+void WorldRosters::recordRosterMatch(const QString &orgName, int id, const QString &entry, const QString &matchType)
+{
+    if (Entity_Org *org = world.organisationNamed(orgName))
+        org->recordMatch(world.currentDate, id, entry, matchType);
+}
+
+void WorldRosters::setTitleHolder(const QString &orgName, const QString &title, int winnerId, bool isGymFighter)
+{
+    Entity_Org *org = world.organisationNamed(orgName);
+    if (!org)
+        return;
+    QString holder;
+    if (!isGymFighter) {
+        if (!org->holdsFighter(winnerId))
+            return;
+        holder = org->rosterFighter(winnerId).fullName();
+    } else {
+        const qsizetype index = world.fighterIndexOf(winnerId);
+        if (index < 0)
+            return;
+        const Entity_GymFighter &winner = world.fighters[index];
+        // a man whose contract ended with this very fight cannot keep a world title
+        const bool leftWithTheBelt = winner.text(Entity_Fighter::Organisation) == QLatin1String("Free Agent") &&
+                                     title.contains("World Championship");
+        holder = leftWithTheBelt ? QString(Entity_Org::VacantTitle) : winner.fullName();
+    }
+    org->setTitle(title, holder);
+}
+
+void WorldRosters::dropOldTitles()
+{
+    for (Entity_Org &org : world.organisations)
+        org.dropOldTitles(world.currentDate);
+}
+
+void WorldRosters::refreshReputations(const QString &orgName)
+{
+    if (Entity_Org *org = world.organisationNamed(orgName))
+        org->refreshReputations();
+}
+
+int WorldRosters::freeAgentCount() const
+{
+    return int(world.freeAgents.size());
+}
+
+int WorldRosters::amateurCount() const
+{
+    return int(world.amateurs.size());
+}
