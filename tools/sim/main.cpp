@@ -92,7 +92,7 @@ GameManager::NewGame plainNewGame()
     GameManager::NewGame choices;
     choices.firstName = "Sim";
     choices.lastName = "Manager";
-    choices.region = "Asia";
+    choices.region = "East Asia";
     choices.nation = "Japan";
     choices.gymName = "Sim Gym";
     choices.gymStyle = "Kickboxing";
