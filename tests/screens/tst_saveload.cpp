@@ -126,9 +126,12 @@ private slots:
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("message");
-        QTest::newRow("load without saves") << "Load" << "Please specify a file to load.";
-        QTest::newRow("delete without saves") << "Delete" << "Please specify a file to delete.";
-        QTest::newRow("save without a name") << "Save" << "Please specify a file name for your save.";
+        QTest::newRow("load without saves") << "Load"
+                                            << "Please specify a file to load.";
+        QTest::newRow("delete without saves") << "Delete"
+                                              << "Please specify a file to delete.";
+        QTest::newRow("save without a name") << "Save"
+                                             << "Please specify a file name for your save.";
     }
 
     void nothingToWorkOn()
@@ -241,28 +244,57 @@ private slots:
         QVERIFY(onSaveScreen() && ModuleManager::instance().isTopMenuVisible());
     }
 
-    // a name that leads out of the saves folder is refused with a message and writes nothing
-    void namesOutsideTheFolderAreRefused_data()
+    // a name that leads out of the saves folder, or that the list of saves could not show, is
+    // refused with a message and writes nothing
+    void namesOutsideTheListAreRefused_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("up and out") << "../../../Escaped";
-        QTest::newRow("into a folder") << "Nested/Game";
-        QTest::newRow("the folder above") << "..";
-        QTest::newRow("the folder itself") << ".";
-        QTest::newRow("from the root") << QDir::tempPath() + "/orvane_escaped";
+        QTest::addColumn<QString>("message"); // empty: any message
+        QTest::newRow("up and out") << "../../../Escaped"
+                                    << "";
+        QTest::newRow("into a folder") << "Nested/Game"
+                                       << "";
+        QTest::newRow("the folder above") << ".."
+                                          << "";
+        QTest::newRow("the folder itself") << "."
+                                           << "";
+        QTest::newRow("from the root") << QDir::tempPath() + "/orvane_escaped"
+                                       << "";
+        QTest::newRow("a hidden file")
+            << ".hidden"
+            << "The name of a save can't start with \".\": such a file would be hidden from the list of saved games.";
     }
 
-    void namesOutsideTheFolderAreRefused()
+    void namesOutsideTheListAreRefused()
     {
         QFETCH(QString, name);
+        QFETCH(QString, message);
         openSaveScreen(true);
         const QStringList before = allFiles();
         const auto seen = saveAs(name, {"Accept", "Accept"});
         QCOMPARE(seen.size(), 1);
         QCOMPARE(seen[0].buttons, cancelAlone);
         QVERIFY2(!seen[0].text.isEmpty(), qPrintable(name));
+        if (!message.isEmpty())
+            QCOMPARE(seen[0].text, message);
         QCOMPARE(allFiles(), before);
         QVERIFY(!QFile::exists(QDir::tempPath() + "/orvane_escaped.dat"));
+    }
+
+    // a save that the disk refuses says which file and why
+    void aFailedSaveSaysWhy()
+    {
+        // a folder where the file should go can't be written over
+        QVERIFY(QDir().mkpath(saves + "Blocked.dat"));
+        openSaveScreen(true);
+        const auto seen = saveAs("Blocked", {"Accept", "Accept"});
+        QCOMPARE(seen.size(), 2);
+        const QStringList lines = seen[1].text.split('\n');
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines[0], QString("Error opening file ./Resources/Saves/Blocked.dat"));
+        QVERIFY(!lines[1].isEmpty());
+        QCOMPARE(seen[1].buttons, cancelAlone);
+        QVERIFY(QFileInfo(saves + "Blocked.dat").isDir());
     }
 
 private:
