@@ -64,7 +64,7 @@ class tst_DefaultWorld : public QObject
 {
     Q_OBJECT
 
-    World world;
+    WorldState world;
 
     void orgRows()
     {
@@ -78,7 +78,7 @@ private slots:
     {
         QVERIFY2(defaultsPresent(), "the default files are missing: build orvane_runtime_files");
         GameManager::instance().takeWorld(DefaultWorld::read());
-        world = World::running();
+        world = GameManager::instance().state();
     }
 
     void organisationsInTheirOrder()
@@ -216,7 +216,7 @@ private slots:
     void careersAgreeWithRecords()
     {
         QSet<QString> everyone;
-        const QList<F> men = world.worldMen();
+        const QList<F> men = worldMen(world);
         for (const F &man : men)
             everyone.insert(man.fullName());
         int withHistory = 0;
@@ -250,7 +250,7 @@ private slots:
         QVERIFY(NameFiles::readNations(lists, DefaultFiles::path(DefaultFiles::nationsFile())));
         QSet<int> ids;
         QSet<QString> names;
-        const QList<F> men = world.worldMen();
+        const QList<F> men = worldMen(world);
         for (const F &man : men) {
             QVERIFY2(man.getId() >= 10 && man.getId() <= 1058, qPrintable(QString::number(man.getId())));
             QVERIFY2(!ids.contains(man.getId()), qPrintable(QString::number(man.getId())));
@@ -305,11 +305,10 @@ private slots:
 
     void firstNewManAfterTheDefaults()
     {
-        setUser("Canada", "North America");
         QString name;
         QVERIFY(!GameManager::instance().generateFighter(NameFiles::book(), name, false));
         int id = 0;
-        for (const F &man : World::running().freeAgents)
+        for (const F &man : GameManager::instance().state().freeAgents)
             if (man.fullName() == name)
                 id = man.getId();
         QCOMPARE(id, 1059);
@@ -372,9 +371,9 @@ private slots:
     {
         WorkingFolder folder;
         GameManager::instance().takeWorld(DefaultWorld::read());
-        const World empty = World::running();
+        const WorldState empty = GameManager::instance().state();
         QCOMPARE(GameManager::instance().organisationNames(), OrgTable::names());
-        QVERIFY(empty.worldMen().isEmpty());
+        QVERIFY(worldMen(empty).isEmpty());
     }
 };
 

@@ -397,6 +397,44 @@ private slots:
         QCOMPARE(strings[0], QString("Iron Den"));
         QCOMPARE(ledger, QList<int>(8, 0));
     }
+
+    // A new game starts on the first day with the first id, whatever ran before: the manager and
+    // the gym as chosen, and of the default world only its organisations, free agents and amateurs.
+    void aNewGameTakesTheChoicesAndTheDefaultLists()
+    {
+        loadSmallWorld();
+        World defaults = smallWorld();
+        defaults.currentDate = QDate(2015, 6, 1);
+        defaults.nextId = 5000;
+        GameManager::NewGame choices;
+        choices.firstName = "Ada";
+        choices.lastName = "Lind";
+        choices.region = "Western Europe";
+        choices.nation = "Sweden";
+        choices.skills = {5, 4, 3};
+        choices.gymName = "North Den";
+        choices.gymStyle = "Boxing";
+        choices.primaryColour = "Teal";
+        choices.secondaryColour = "Gold";
+        world().startNewGame(choices, defaults);
+
+        const WorldState &now = world().state();
+        QCOMPARE(now.currentDate, QDate(2011, 1, 1));
+        QCOMPARE(now.nextId, 1058);
+        QCOMPARE(now.manager.strings(), QStringList({"Ada", "Lind", "Western Europe", "Sweden", "Unknown"}));
+        QList<int> managerValues(Entity_Manager::ValueCount, 0);
+        managerValues[Entity_Manager::Punch] = 5;
+        managerValues[Entity_Manager::Kick] = 4;
+        managerValues[Entity_Manager::ClinchOffense] = 3;
+        QCOMPARE(now.manager.values(), managerValues);
+        QVERIFY(now.manager.titleList().isEmpty());
+        QCOMPARE(now.gym.strings(), QStringList({"North Den", "Boxing", "Teal", "Gold", "Unknown"}));
+        QCOMPARE(now.gym.values(), Entity_Gym().values());
+        QCOMPARE(world().organisationNames(), QStringList({"G-1", "GKO"}));
+        QCOMPARE(now.freeAgents.size(), 1);
+        QCOMPARE(now.amateurs.size(), 1);
+        QVERIFY(now.students.isEmpty() && now.fighters.isEmpty() && now.offers.isEmpty() && now.bookings.isEmpty());
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_GameManager)
