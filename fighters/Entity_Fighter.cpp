@@ -6,6 +6,8 @@
 #include "fighters/StreamForm.h"
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
 
 Entity_Fighter::Entity_Fighter()
 {
@@ -203,4 +205,70 @@ void Entity_Fighter::moveSkillAttributes(int skill, int step)
 {
     for (Number attribute : SkillTable::attributes(skill))
         numbers[attribute] += step;
+}
+
+// --- Yearly development -----------------------------------------------------------------------
+
+namespace {
+
+// What a birthday does to each attribute, by the age that he leaves behind: up while he is young,
+// nothing in his prime, down when he is old. The change is (a roll below `range`, plus `base`)
+// times `sign`.
+struct GrowthRow {
+    int fromAge;
+    int sign;
+    int base;
+    int range;
+};
+
+constexpr GrowthRow growthByAge[] = {
+    {std::numeric_limits<int>::min(), +1, 0, 1}, // a boy below 18 grows by training alone
+    {18, +1, 1, 3},
+    {22, +1, 0, 3},
+    {24, +1, 0, 2},
+    {30, +1, 0, 1},
+    {35, -1, 0, 2},
+    {37, -1, 0, 3},
+};
+
+const GrowthRow &growthRow(int ageBefore)
+{
+    const GrowthRow *row = &growthByAge[0];
+    for (const GrowthRow &candidate : growthByAge) {
+        if (candidate.fromAge <= ageBefore)
+            row = &candidate;
+    }
+    return *row;
+}
+
+// the attributes are rolled in these runs, with a stirred generator between two runs
+constexpr int growthBatches[] = {6, 6, 6, 6, 6, 6, 4, 4, 4, 4, 4, 5, 4, 6, 6, 6};
+
+constexpr int batchTotal()
+{
+    int total = 0;
+    for (int size : growthBatches)
+        total += size;
+    return total;
+}
+static_assert(batchTotal() == Entity_Fighter::AttributeCount, "the runs cover every attribute once");
+
+constexpr int StirRange = 20;
+
+} // namespace
+
+void Entity_Fighter::developOneYear()
+{
+    Random::seedFromClock();
+    const GrowthRow &row = growthRow(numbers[Age]);
+    ++numbers[Age];
+    int attribute = FirstAttribute;
+    const int batchCount = int(std::size(growthBatches));
+    for (int batch = 0; batch < batchCount; ++batch) {
+        for (int i = 0; i < growthBatches[batch]; ++i, ++attribute)
+            numbers[attribute] += (qrand() % row.range + row.base) * row.sign;
+        if (batch + 1 < batchCount)
+            Random::stir(qrand() % StirRange);
+    }
+    clampAttributes();
 }

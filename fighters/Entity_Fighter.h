@@ -160,6 +160,8 @@ public:
 
     // every attribute back into 0 to 99; the numbers beyond the attributes are left alone
     void clampAttributes();
+    // his birthday: a year older, and every attribute moves by the growth of the age he leaves
+    void developOneYear();
 
     // pack, stream and unpack give the same record
     bool operator==(const Entity_Fighter &other) const;

@@ -210,3 +210,135 @@ void Entity_GymFighter::updateReputationLabel()
 {
     setText(Reputation, ReputationScale::label(ReputationScale::Fighter, reputationPoints));
 }
+
+// --- Daily training ---------------------------------------------------------------------------
+
+#include "fighters/Entity_Gym.h"
+#include "fighters/TrainingPlan.h"
+
+namespace {
+
+// the highest fatigue of each band: "Peak", "Great", "Normal", "Tired"; above them "Exhausted"
+constexpr int fatigueBandTops[] = {20, 40, 60, 80};
+
+// what a day of work and a day of rest do to fatigue
+constexpr int DailyFatigue = 2;
+constexpr int RestRecovery = 10;
+// from here a day of work leaves him at the most
+constexpr int FatigueCeilingFrom = 99;
+
+// a fresh man rolls his gains below 20; every 10 points of fatigue take one off the range
+constexpr int GainRange = 20;
+constexpr int FatiguePerGainStep = 10;
+// the roll of a skill that wears away, at any fatigue
+constexpr int FadeRange = 11;
+
+const QString LackOfFundsLog = "Rested today due to lack of funds.";
+const QString LackOfFundsNews = " rested today due to lack of funds.";
+
+// one roll of a plan; the generator is then seeded afresh as many times as the roll came up
+int planRoll(int range)
+{
+    const int roll = Random::u(range);
+    Random::stir(roll);
+    return roll;
+}
+
+} // namespace
+
+int Entity_GymFighter::fatigueBandOf(int fatigue)
+{
+    int band = 0;
+    for (int top : fatigueBandTops) {
+        if (fatigue > top)
+            ++band;
+    }
+    return band;
+}
+
+void Entity_GymFighter::rest()
+{
+    fatigue = fatigue < RestRecovery ? 0 : fatigue - RestRecovery;
+    fatigueBand = fatigueBandOf(fatigue);
+}
+
+void Entity_GymFighter::trimTrainingLog()
+{
+    if (trainingLog.size() > 1)
+        trainingLog = QStringList{trainingLog.constLast()};
+}
+
+int Entity_GymFighter::dailyTraining(const QDate &date, const QList<int> &managerValues, const QList<int> &gymValues,
+                                     QString &report)
+{
+    QString logLine = '\n' + date.toString(Qt::TextDate) + " - ";
+    int cost = 0;
+    if (!TrainingPlan::isTraining(trainingPlan)) {
+        rest();
+        logLine += TrainingPlan::logLine(TrainingPlan::Rest);
+        report = fullName() + TrainingPlan::newsLine(TrainingPlan::Rest);
+    } else {
+        const int equipment = gymValues.value(TrainingPlan::equipmentSlot(trainingPlan));
+        cost = TrainingPlan::CostPerLevel * equipment;
+        // a gym in debt cannot pay even for bare equipment: 0 is above its money
+        if (gymValues.value(Entity_Gym::Money) < cost) {
+            rest();
+            cost = 0;
+            logLine += LackOfFundsLog;
+            report = fullName() + LackOfFundsNews;
+        } else {
+            QStringList lines;
+            trainOnPlan(trainingPlan, managerValues.value(TrainingPlan::managerSkillSlot(trainingPlan)), equipment,
+                        lines);
+            logLine += TrainingPlan::logLine(trainingPlan);
+            report = fullName() + TrainingPlan::newsLine(trainingPlan);
+            // the skills' lines go to the news only
+            for (const QString &line : lines)
+                report += '\n' + line;
+        }
+    }
+    // every day tires him, rest and the day without money included
+    fatigue = fatigue >= FatigueCeilingFrom ? MostFatigue : fatigue + DailyFatigue;
+    fatigueBand = fatigueBandOf(fatigue);
+    trainingLog.append(logLine);
+    clampAttributes();
+    return cost;
+}
+
+void Entity_GymFighter::trainOnPlan(int plan, int skill, int equipment, QStringList &lines)
+{
+    Random::seedFromClock();
+    // a tired man gains less; the wearing away of the neglected skills does not tire
+    const int gainRange = GainRange - fatigue / FatiguePerGainStep;
+    const QList<int> mainSkills = TrainingPlan::mainSkills(plan);
+    const QList<int> sideSkills = TrainingPlan::sideSkills(plan);
+    const QList<int> fadingSkills = TrainingPlan::fadingSkills(plan);
+
+    for (int s : mainSkills) {
+        const int amount = learningSpeed + skill * planRoll(gainRange) / 10 + equipment;
+        skillProgress[s] += amount;
+        lines.append(SkillTable::name(s) + " +" + QString::number(amount));
+    }
+    for (int s : mainSkills)
+        checkLevelUp(s, lines);
+
+    // the side skills owe nothing to the equipment, and only a fine trainer's show in the news
+    for (int s : sideSkills) {
+        const int amount = learningSpeed + skill * planRoll(gainRange) / 20;
+        skillProgress[s] += amount;
+        if (skill > 7)
+            lines.append(SkillTable::name(s) + " +" + QString::number(amount));
+    }
+    for (int s : sideSkills)
+        checkLevelUp(s, lines);
+
+    // good trainers and good equipment slow the wearing away; only a trainer of some skill sees it
+    for (int s : fadingSkills) {
+        const int loss = (11 - skill) * planRoll(FadeRange) / 20 + 6 - equipment / 2;
+        skillProgress[s] -= loss;
+        if (skill > 3)
+            lines.append(SkillTable::name(s) + " -" + QString::number(loss));
+    }
+    for (int s : fadingSkills)
+        checkLevelDown(s, lines);
+}

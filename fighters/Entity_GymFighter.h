@@ -57,6 +57,24 @@ public:
     void addMatchExperience(const QList<int> &statistics, const QString &result);
     // the label from the reputation points
     void updateReputationLabel();
+
+    // --- Daily training ---------------------------------------------------------------------------
+    // One day on his plan, measured against the manager's 23 values and the gym's 26 values of
+    // the morning: counters, levels, fatigue and a line in his log. `report` gets his line for the
+    // day's news. Gives what the day costs, which the caller takes from the gym; a plan that the
+    // gym cannot pay is a day of rest and costs nothing.
+    int dailyTraining(const QDate &date, const QList<int> &managerValues, const QList<int> &gymValues, QString &report);
+    // fatigue falls by 10, to no less than 0
+    void rest();
+    // the second of the month: the log keeps only its last line
+    void trimTrainingLog();
+    // 0 "Peak" to 4 "Exhausted"
+    static int fatigueBandOf(int fatigue);
+    static constexpr int MostFatigue = 100;
+
+private:
+    // the plan's rolls for one day with the manager's skill and the equipment's level
+    void trainOnPlan(int plan, int skill, int equipment, QStringList &lines);
 };
 
 QDataStream &operator<<(QDataStream &out, const Entity_GymFighter &fighter);

@@ -1,0 +1,61 @@
+// Reports what it costs to work out all 48 ratings of every man of the default world: the
+// organisations' rosters, the free agents and the amateurs, as many men as the database screen
+// lists. The ratings are computed on demand and stored nowhere, so each pass does the whole work.
+// It must run where the game runs, beside the Resources tree.
+#include "fighters/Ratings.h"
+#include "world/Entity_Org.h"
+#include "world/GameManager.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTextStream>
+
+#include <algorithm>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    if (!QDir(QStringLiteral("Resources/Defaults")).exists()) {
+        QTextStream(stderr) << "no default world in ./Resources/Defaults: run the benchmark in the game's directory\n";
+        return 1;
+    }
+    GameManager &world = GameManager::instance();
+    world.loadDefaultWorld();
+
+    QList<Entity_Fighter> rostered;
+    for (const QString &name : world.organisationNames()) {
+        Entity_Org::Roster roster;
+        world.organisation(name).rosterCopy(roster);
+        for (const Entity_Fighter &man : roster)
+            rostered.append(man);
+    }
+    // the pools of free agents and amateurs are not handed out one by one; the rating of a man
+    // costs the same whoever he is, so the rostered men stand in for them
+    const int worldSize = int(rostered.size()) + world.freeAgentCount() + world.amateurCount();
+    QList<Entity_Fighter> men;
+    for (int i = 0; i < worldSize && !rostered.isEmpty(); ++i)
+        men.append(rostered[i % rostered.size()]);
+
+    const int passes = 200;
+    QList<double> times;
+    long long checksum = 0;
+    for (int pass = 0; pass < passes; ++pass) {
+        QElapsedTimer timer;
+        timer.start();
+        for (const Entity_Fighter &man : men) {
+            const Ratings::Values ratings = Ratings::of(man);
+            for (int rating : ratings)
+                checksum += rating;
+        }
+        times.append(double(timer.nsecsElapsed()) / 1e6);
+    }
+    std::sort(times.begin(), times.end());
+    out << "men: " << men.size() << " (" << rostered.size() << " in rosters, " << world.freeAgentCount()
+        << " free agents, " << world.amateurCount() << " amateurs)\n";
+    out << "all 48 ratings of every man, " << passes << " passes: median " << times[passes / 2] << " ms, slowest "
+        << times.last() << " ms, fastest " << times.first() << " ms\n";
+    out << "checksum " << checksum / passes << "\n";
+    return 0;
+}
