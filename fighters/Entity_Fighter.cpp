@@ -272,3 +272,8 @@ void Entity_Fighter::developOneYear()
     }
     clampAttributes();
 }
+
+QString Entity_Fighter::birthdayLine() const
+{
+    return fullName() + " has turned " + QString::number(numbers[Age]) + " years old.";
+}

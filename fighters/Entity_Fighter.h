@@ -162,6 +162,8 @@ public:
     void clampAttributes();
     // his birthday: a year older, and every attribute moves by the growth of the age he leaves
     void developOneYear();
+    // the news of his birthday, with the age he has now: "Al Ames has turned 25 years old."
+    QString birthdayLine() const;
 
     // pack, stream and unpack give the same record
     bool operator==(const Entity_Fighter &other) const;

@@ -64,8 +64,10 @@ void DayFlow::setProgress(int step)
 
 void DayFlow::trainAllFighters()
 {
-    // the daily training of the user's fighters, charged to the gym, joins here with its reports
+    const QStringList reports = world.trainAllFighters();
     print("Gym Info: ");
+    for (const QString &report : reports)
+        print(report);
 }
 
 void DayFlow::welcomeANewStudent()
@@ -125,8 +127,10 @@ QString DayFlow::advanceTournamentWinner(int, const QString &)
 
 void DayFlow::fighterNews()
 {
-    // the world's birthdays, retirements and new talent (ageWorld, then ageUserFighters) join here
-    printLines("Fighter News: ", {});
+    QStringList news;
+    // the world's birthdays, retirements and new talent (ageWorld) join here, before the gym's
+    world.ageUserFighters(news);
+    printLines("Fighter News: ", news);
 }
 
 void DayFlow::contractNews()
@@ -168,5 +172,5 @@ void DayFlow::calendarJobs()
 
 void DayFlow::trimTrainingLogs()
 {
-    // each fighter's trimTrainingLog of the month's training joins here
+    world.trimTrainingLogs();
 }

@@ -1,6 +1,7 @@
 #include "world/GymPeople.h"
 
 #include "fighters/GameLists.h"
+#include "fighters/GymRoutine.h"
 #include "fighters/ResultEntry.h"
 #include "world/WorldState.h"
 
@@ -251,4 +252,27 @@ bool GymPeople::applyMatchOutcome(const QList<int> &statistics, int id, const QS
     }
     world.gym.addIncome(purse, true);
     return levelUp;
+}
+
+QStringList GymPeople::trainAllFighters()
+{
+    return GymRoutine::trainAll(world.fighters, world.gym, world.manager, world.currentDate);
+}
+
+void GymPeople::setTrainingPlan(int fighterId, int plan)
+{
+    const qsizetype index = world.fighterIndexOf(fighterId);
+    if (index >= 0)
+        world.fighters[index].trainingPlan = plan;
+}
+
+void GymPeople::trimTrainingLogs()
+{
+    GymRoutine::trimTrainingLogs(world.fighters);
+}
+
+void GymPeople::ageUserFighters(QStringList &news)
+{
+    // the retirement of old gym fighters joins here with the ageing of the world
+    GymRoutine::celebrateBirthdays(world.fighters, world.students, world.currentDate, news);
 }

@@ -52,6 +52,16 @@ public:
     // manager's reputation; true when the manager's label rose, which is his level up
     bool applyMatchOutcome(const QList<int> &statistics, int id, const QString &entry);
 
+    // the morning's training of every fighter, paid from the gym's money of the morning; one
+    // report for each fighter, in list order
+    QStringList trainAllFighters();
+    // the fighter of that id works on `plan` from the next day on; an unknown id changes nothing
+    void setTrainingPlan(int fighterId, int plan);
+    // the second of the month: every fighter's log keeps its last line
+    void trimTrainingLogs();
+    // the birthdays of the gym's fighters and students tonight, with a news line for each
+    void ageUserFighters(QStringList &news);
+
 private:
     bool isFighterIndex(int index) const;
     bool isStudentIndex(int index) const;

@@ -1,5 +1,4 @@
 #include "fighters/Entity_Fighter.h"
-#include "fighters/Entity_GymFighter.h"
 #include "fighters/Random.h"
 
 #include <QtTest>
@@ -96,41 +95,6 @@ private slots:
         man.developOneYear();
         for (int a = F::FirstAttribute; a <= F::LastAttribute; ++a)
             QCOMPARE(man.number(F::Number(a)), value);
-    }
-
-    // a birthday is a day with his month and day: 29 February comes only in a leap year
-    void birthdays_data()
-    {
-        QTest::addColumn<QDate>("born");
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<bool>("birthday");
-
-        QTest::newRow("29 February in a leap year") << QDate(1992, 2, 29) << QDate(2012, 2, 29) << true;
-        QTest::newRow("28 February of a common year is not his") << QDate(1992, 2, 29) << QDate(2013, 2, 28) << false;
-        QTest::newRow("nor is 1 March") << QDate(1992, 2, 29) << QDate(2013, 3, 1) << false;
-        QTest::newRow("his day") << QDate(1990, 5, 10) << QDate(2011, 5, 10) << true;
-        QTest::newRow("the day before") << QDate(1990, 5, 10) << QDate(2011, 5, 9) << false;
-        QTest::newRow("the same day of another month") << QDate(1990, 5, 10) << QDate(2011, 6, 10) << false;
-        QTest::newRow("the same month, another day") << QDate(1990, 5, 10) << QDate(2011, 5, 11) << false;
-    }
-
-    void birthdays()
-    {
-        QFETCH(QDate, born);
-        QFETCH(QDate, day);
-        QFETCH(bool, birthday);
-        Entity_GymFighter man;
-        man.setNumber(F::Age, 30);
-        man.setBirthDate(born);
-        int oldAge = 0;
-        QCOMPARE(man.ageWithBirthday(day, &oldAge), birthday ? 31 : 30);
-        QCOMPARE(oldAge, 30);
-        QCOMPARE(man.number(F::Age), 30); // asking changes nothing
-        // a gym fighter's age moves at once, and his attributes not at all
-        man.setNumber(F::JabPower, 60);
-        QCOMPARE(man.advanceAge(day), 30);
-        QCOMPARE(man.number(F::Age), birthday ? 31 : 30);
-        QCOMPARE(man.number(F::JabPower), 60);
     }
 };
 

@@ -1,4 +1,5 @@
 // orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] [--no-times]
+//                  [--train PLAN[,PLAN...]]
 // orvane-sim matches --count N [--seed S | --real-clock]
 //
 // Starts a new game with a plain manager and gym on the default world, or loads a saved game,
@@ -6,7 +7,9 @@
 // year and writes the world to FILE at the end. With --seed the test clock makes every run with
 // the same arguments the same (the lines with timings aside; --no-times leaves them out). With
 // --check the world invariants are checked after every day, and the first fault stops the run.
-// With --news the news of every day is printed as the Next Day screen shows it.
+// With --news the news of every day is printed as the Next Day screen shows it. With --train the
+// gym takes a fighter for each plan (1 is the heavy bag) and the yearly report tells what training
+// did to him (TrainingReport).
 //
 // The matches mode draws N pairs from the rosters of the new game's world, each man against
 // another of his organisation, fights them as the day flow does, and prints how they ended, the
@@ -15,6 +18,7 @@
 // tree.
 
 #include "MatchesRun.h"
+#include "TrainingReport.h"
 #include "WorldReport.h"
 
 #include "fighters/Random.h"
@@ -41,10 +45,11 @@ struct Options {
     bool check = false;
     bool news = false;
     bool times = true;
+    QList<int> trainingPlans;
 };
 
 const char *usage = "usage: orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] "
-                    "[--no-times]\n";
+                    "[--no-times] [--train PLAN[,PLAN...]]\n";
 
 void printUsage()
 {
@@ -75,6 +80,8 @@ bool parse(const QStringList &args, Options &options)
             options.check = true;
         } else if (arg == "--news") {
             options.news = true;
+        } else if (arg == "--train" && hasValue) {
+            ok = TrainingReport::parsePlans(args[++i], options.trainingPlans);
         } else if (arg == "--no-times") {
             options.times = false;
         } else {
@@ -168,21 +175,38 @@ int main(int argc, char *argv[])
         << (options.seeded ? QString(", seed %1").arg(options.seed) : QString()) << '\n';
 
     const FighterGenerator::NameBook names = NameFiles::book();
+    TrainingReport training;
+    if (!options.trainingPlans.isEmpty()) {
+        QString reason;
+        if (!training.start(world, options.trainingPlans, reason)) {
+            QTextStream(stderr) << "cannot train: " << reason << '\n';
+            return 1;
+        }
+    }
     WorldReport report(options.times);
     DayFlow::Print print = [&](const QString &paragraph) {
         if (options.news)
             out << paragraph << '\n';
+        training.readNews(paragraph);
+    };
+    const auto finishYear = [&] {
+        QStringList lines = report.finishYear(world);
+        if (training.isActive())
+            lines << training.finishYear(world);
+        out << lines.join('\n') << '\n';
     };
     int result = 0;
     for (int day = 0; day < options.days; ++day) {
         const QDate today = world.getCurrentDate();
         if (report.hasDays() && today.year() != report.year())
-            out << report.finishYear(world).join('\n') << '\n';
+            finishYear();
         DayFlow flow(world, names, print);
+        training.beforeDay(world);
         QElapsedTimer clock;
         clock.start();
         flow.run();
         report.addDay(today, flow.tally(), clock.nsecsElapsed() / 1000, world);
+        training.afterDay(world);
         if (options.check) {
             const QStringList faults = WorldInvariants::check(world.state());
             if (!faults.isEmpty()) {
@@ -193,7 +217,7 @@ int main(int argc, char *argv[])
         }
     }
     if (report.hasDays())
-        out << report.finishYear(world).join('\n') << '\n';
+        finishYear();
     if (options.times)
         out << "  time: peak memory " << WorldReport::peakMemoryKb() / 1024 << " MB\n";
 

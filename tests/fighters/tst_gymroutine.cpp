@@ -1,0 +1,147 @@
+#include "fighters/Entity_Gym.h"
+#include "fighters/Entity_GymFighter.h"
+#include "fighters/Entity_Manager.h"
+#include "fighters/GymRoutine.h"
+#include "fighters/Random.h"
+
+#include <QtTest>
+
+using F = Entity_Fighter;
+using G = Entity_Gym;
+
+namespace {
+
+const QDate today(2012, 3, 14);
+
+Entity_GymFighter fighterOn(int plan, const QString &last)
+{
+    Entity_GymFighter man;
+    man.setText(F::FirstName, "Al");
+    man.setText(F::LastName, last);
+    man.trainingPlan = plan;
+    return man;
+}
+
+// the heavy bag (plan 1) and the focus mitts (plan 2) at these levels
+Entity_Gym gymWith(int money, int heavyBag, int focusMitts)
+{
+    Entity_Gym gym;
+    QList<int> values = gym.values();
+    values[G::Money] = money;
+    values[G::FirstEquipment] = heavyBag;
+    values[G::FirstEquipment + 1] = focusMitts;
+    gym.unpack(gym.strings(), values, gym.ledger());
+    return gym;
+}
+
+Entity_Fighter bornOn(const QDate &born, int age, int attributes)
+{
+    Entity_Fighter man;
+    man.setNumber(F::Age, age);
+    man.setBirthDate(born);
+    for (int a = F::FirstAttribute; a <= F::LastAttribute; ++a)
+        man.setNumber(F::Number(a), attributes);
+    return man;
+}
+
+} // namespace
+
+class tst_GymRoutine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Random::useRealClock(); }
+
+    // Ames works the heavy bag, Bell the focus mitts. Both are measured against the money of the
+    // morning, and each day's cost comes off the gym at once.
+    void morningMoney_data()
+    {
+        QTest::addColumn<int>("money");
+        QTest::addColumn<int>("heavyBag");
+        QTest::addColumn<int>("focusMitts");
+        QTest::addColumn<bool>("amesTrains");
+        QTest::addColumn<bool>("bellTrains");
+        QTest::addColumn<int>("moneyAfter");
+
+        QTest::newRow("two share 100 on level 2: both pay, the gym ends at -100")
+            << 100 << 2 << 2 << true << true << -100;
+        QTest::newRow("the second is measured against the morning, not what the first left")
+            << 100 << 2 << 1 << true << true << -50;
+        QTest::newRow("a gym without the morning's money: both rest") << 50 << 2 << 2 << false << false << 50;
+        QTest::newRow("one paid, one not") << 100 << 1 << 3 << true << false << 50;
+        QTest::newRow("bare equipment is free to a gym with 0") << 0 << 0 << 0 << true << true << 0;
+        QTest::newRow("a gym in debt cannot pay even that") << -10 << 0 << 0 << false << false << -10;
+    }
+
+    void morningMoney()
+    {
+        QFETCH(int, money);
+        QFETCH(int, heavyBag);
+        QFETCH(int, focusMitts);
+        QFETCH(bool, amesTrains);
+        QFETCH(bool, bellTrains);
+        QFETCH(int, moneyAfter);
+        Random::useTestClock(3);
+        QList<Entity_GymFighter> fighters{fighterOn(1, "Ames"), fighterOn(2, "Bell")};
+        Entity_Gym gym = gymWith(money, heavyBag, focusMitts);
+        const QStringList reports = GymRoutine::trainAll(fighters, gym, Entity_Manager(), today);
+
+        QCOMPARE(reports.size(), 2);
+        QCOMPARE(reports[0].section('\n', 0, 0), amesTrains ? QString("Al Ames trained on the heavy bag.")
+                                                            : QString("Al Ames rested today due to lack of funds."));
+        QCOMPARE(reports[1].section('\n', 0, 0), bellTrains ? QString("Al Bell trained using focus mitts.")
+                                                            : QString("Al Bell rested today due to lack of funds."));
+        QCOMPARE(gym.money(), moneyAfter);
+        QCOMPARE(gym.ledgerEntry(G::TrainingCosts), money - moneyAfter);
+        for (const Entity_GymFighter &man : fighters)
+            QCOMPARE(man.trainingLog.size(), 1);
+    }
+
+    // A fighter only gets a year older; a student grows. 29 February comes in leap years only.
+    void birthdays_data()
+    {
+        QTest::addColumn<QDate>("born");
+        QTest::addColumn<QDate>("day");
+        QTest::addColumn<QStringList>("news");
+
+        const QStringList both{"Al Ames has turned 26 years old.", "Your student Stu Dent has turned 19 years old."};
+        QTest::newRow("29 February of a leap year") << QDate(1988, 2, 29) << QDate(2012, 2, 29) << both;
+        QTest::newRow("28 February of a common year passes him by")
+            << QDate(1988, 2, 29) << QDate(2013, 2, 28) << QStringList();
+        QTest::newRow("and so does 1 March") << QDate(1988, 2, 29) << QDate(2013, 3, 1) << QStringList();
+        QTest::newRow("a birthday in summer") << QDate(1990, 7, 4) << QDate(2015, 7, 4) << both;
+        QTest::newRow("the day after") << QDate(1990, 7, 4) << QDate(2015, 7, 5) << QStringList();
+    }
+
+    void birthdays()
+    {
+        QFETCH(QDate, born);
+        QFETCH(QDate, day);
+        QFETCH(QStringList, news);
+        Random::useTestClock(4);
+        Entity_GymFighter fighter(bornOn(born, 25, 50));
+        fighter.setText(F::FirstName, "Al");
+        fighter.setText(F::LastName, "Ames");
+        Entity_Fighter student = bornOn(born, 18, 50);
+        student.setText(F::FirstName, "Stu");
+        student.setText(F::LastName, "Dent");
+        QList<Entity_GymFighter> fighters{fighter};
+        QList<Entity_Fighter> students{student};
+        QStringList lines;
+        GymRoutine::celebrateBirthdays(fighters, students, day, lines);
+
+        QCOMPARE(lines, news);
+        const bool birthday = !news.isEmpty();
+        QCOMPARE(fighters[0].number(F::Age), birthday ? 26 : 25);
+        QCOMPARE(students[0].number(F::Age), birthday ? 19 : 18);
+        for (int a = F::FirstAttribute; a <= F::LastAttribute; ++a) {
+            QCOMPARE(fighters[0].number(F::Number(a)), 50);
+            // a student of 18 gains 1 to 3 in every attribute on his birthday
+            QCOMPARE(students[0].number(F::Number(a)) > 50, birthday);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_GymRoutine)
+#include "tst_gymroutine.moc"
