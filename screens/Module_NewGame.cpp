@@ -5,6 +5,7 @@
 #include "persistence/DefaultFiles.h"
 #include "persistence/DefaultWorld.h"
 #include "persistence/NameFiles.h"
+#include "screens/GamePictures.h"
 #include "screens/Module_MainMenu.h"
 #include "screens/ScreenFactory.h"
 #include "shell/GameDialog.h"
@@ -19,7 +20,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSpinBox>
@@ -323,15 +323,11 @@ void Module_NewGame::calculateSkill()
 
 void Module_NewGame::changeColourDisplay()
 {
-    QPixmap emblem("./Resources/Shorts/gym_shorts_" + primaryColourBox->currentText() + ".jpg");
-    if (emblem.isNull()) {
+    const QPixmap emblem = GamePictures::gymEmblem(primaryColourBox->currentText(), secondaryColourBox->currentText());
+    if (emblem.isNull())
         emblemLabel->clear();
-        return;
-    }
-    QPainter painter(&emblem);
-    painter.drawPixmap(0, 0, QPixmap("./Resources/Trim/gym_trim_" + secondaryColourBox->currentText() + ".png"));
-    painter.end();
-    emblemLabel->setPixmap(emblem);
+    else
+        emblemLabel->setPixmap(emblem);
 }
 
 void Module_NewGame::backToMainMenu()

@@ -4,6 +4,7 @@
 #include "screens/Module_NextDay.h"
 #include "screens/Module_Placeholder.h"
 #include "screens/Module_SaveLoad.h"
+#include "screens/Module_Training.h"
 #include "shell/TopMenuBar.h"
 #include "world/Entity_Event.h"
 
@@ -30,6 +31,8 @@ QWidget *ScreenFactory::build(int buttonId)
         buttonId = TopMenuBar::Profile;
     if (buttonId == TopMenuBar::SaveLoad)
         return new Module_SaveLoad;
+    if (buttonId == TopMenuBar::Training)
+        return new Module_Training;
     return new Module_Placeholder(screenNames[buttonId], Module_Placeholder::BackToGame);
 }
 

@@ -120,12 +120,12 @@ private slots:
 
         // in a running game the fight night's stand-in goes back to the screen last chosen
         shell.showTopMenu();
-        shell.topMenu()->changeScreenTraining();
+        shell.topMenu()->changeScreenEvents();
         shell.hideTopMenu();
         shell.changeModule(shell.screens().fightNight(Entity_Event()));
         menuButton("Back")->click();
         QVERIFY(shell.isTopMenuVisible());
-        QCOMPARE(shell.topMenu()->currentScreen(), int(TopMenuBar::Training));
+        QCOMPARE(shell.topMenu()->currentScreen(), int(TopMenuBar::Events));
         QVERIFY(menuButton("Back"));
         shell.hideTopMenu();
         shell.changeModule(new Module_MainMenu);
