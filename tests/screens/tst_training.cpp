@@ -33,7 +33,7 @@ struct GymSetup {
 bool loadGym(const GymSetup &setup)
 {
     WorldSamples::World w;
-    w.date = Today;
+    w.currentDate = Today;
     if (setup.withFighters) {
         Entity_GymFighter ames = WorldSamples::gymFighter(1101, "Al", "Ames", 5000);
         Entity_GymFighter bell = WorldSamples::gymFighter(1102, "Bo", "Bell", 5100);

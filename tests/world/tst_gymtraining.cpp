@@ -16,7 +16,7 @@ const QDate Today(2012, 3, 1);
 World gymWorld()
 {
     World w;
-    w.date = Today;
+    w.currentDate = Today;
     for (int i = 0; i < 3; ++i)
         w.students.append(fighter(2000, "Stu", "Dent" + QString::number(i), 0));
     Entity_GymFighter ames = gymFighter(1101, "Al", "Ames", 5000);
@@ -62,7 +62,7 @@ private slots:
         QVERIFY(gymWorld().load());
         GameManager &world = GameManager::instance();
         QStringList paragraphs;
-        DayFlow(world, [&](const QString &paragraph) { paragraphs << paragraph; }).run();
+        DayFlow(world, {}, [&](const QString &paragraph) { paragraphs << paragraph; }).run();
 
         const qsizetype gymInfo = paragraphs.indexOf("Gym Info: ");
         QVERIFY(gymInfo > 0);

@@ -8,8 +8,9 @@
 #include "fighters/GymRoutine.h"
 #include "fighters/Random.h"
 #include "fighters/Ratings.h"
+#include "persistence/DefaultWorld.h"
 #include "world/Entity_Org.h"
-#include "world/GameManager.h"
+#include "world/WorldState.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,22 +27,16 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "no default world in ./Resources/Defaults: run the benchmark in the game's directory\n";
         return 1;
     }
-    GameManager &world = GameManager::instance();
-    world.loadDefaultWorld();
-
+    const WorldState world = DefaultWorld::read();
     QList<Entity_Fighter> rostered;
-    for (const QString &name : world.organisationNames()) {
+    for (const Entity_Org &organisation : world.organisations) {
         Entity_Org::Roster roster;
-        world.organisation(name).rosterCopy(roster);
+        organisation.rosterCopy(roster);
         for (const Entity_Fighter &man : roster)
             rostered.append(man);
     }
-    // the pools of free agents and amateurs are not handed out one by one; the rating of a man
-    // costs the same whoever he is, so the rostered men stand in for them
-    const int worldSize = int(rostered.size()) + world.freeAgentCount() + world.amateurCount();
-    QList<Entity_Fighter> men;
-    for (int i = 0; i < worldSize && !rostered.isEmpty(); ++i)
-        men.append(rostered[i % rostered.size()]);
+    QList<Entity_Fighter> men = rostered;
+    men << world.freeAgents.values() << world.amateurs.values();
 
     const int passes = 200;
     QList<double> times;
@@ -57,8 +52,8 @@ int main(int argc, char *argv[])
         times.append(double(timer.nsecsElapsed()) / 1e6);
     }
     std::sort(times.begin(), times.end());
-    out << "men: " << men.size() << " (" << rostered.size() << " in rosters, " << world.freeAgentCount()
-        << " free agents, " << world.amateurCount() << " amateurs)\n";
+    out << "men: " << men.size() << " (" << rostered.size() << " in rosters, " << world.freeAgents.size()
+        << " free agents, " << world.amateurs.size() << " amateurs)\n";
     out << "all 48 ratings of every man, " << passes << " passes: median " << times[passes / 2]
         << " ms, 99th percentile " << times[passes * 99 / 100] << " ms, slowest " << times.last() << " ms\n";
     out << "checksum " << checksum / passes << "\n";

@@ -39,7 +39,8 @@ bool TrainingReport::parsePlans(const QString &text, QList<int> &plans)
     return !plans.isEmpty();
 }
 
-bool TrainingReport::start(GameManager &world, const QList<int> &plans, QString &reason)
+bool TrainingReport::start(GameManager &world, const FighterGenerator::NameBook &names, const QList<int> &plans,
+                           QString &reason)
 {
     // room for as many fighters as there are plans
     QStringList strings;
@@ -52,7 +53,7 @@ bool TrainingReport::start(GameManager &world, const QList<int> &plans, QString 
     for (int i = 0; i < plans.size(); ++i) {
         if (i >= world.fighterIds().size()) {
             QString name;
-            if (world.studentNames().isEmpty() && !world.generateFighter(name, true)) {
+            if (world.studentNames().isEmpty() && !world.generateFighter(names, name, true)) {
                 reason = "the gym has no room for a student to turn professional";
                 return false;
             }

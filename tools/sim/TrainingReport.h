@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fighters/FighterGenerator.h"
+
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -18,7 +20,7 @@ public:
     static bool parsePlans(const QString &text, QList<int> &plans);
 
     // Sets the gym up; false, with the reason, when it cannot take a fighter for every plan.
-    bool start(GameManager &world, const QList<int> &plans, QString &reason);
+    bool start(GameManager &world, const FighterGenerator::NameBook &names, const QList<int> &plans, QString &reason);
     bool isActive() const { return !trainees.isEmpty(); }
 
     // one paragraph of the day's news, as the Next Day screen prints it

@@ -178,7 +178,7 @@ int main(int argc, char *argv[])
     TrainingReport training;
     if (!options.trainingPlans.isEmpty()) {
         QString reason;
-        if (!training.start(world, options.trainingPlans, reason)) {
+        if (!training.start(world, names, options.trainingPlans, reason)) {
             QTextStream(stderr) << "cannot train: " << reason << '\n';
             return 1;
         }
