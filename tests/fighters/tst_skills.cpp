@@ -22,57 +22,6 @@ class tst_Skills : public QObject
     Q_OBJECT
 
 private slots:
-    void theTableOfSkills()
-    {
-        QCOMPARE(int(SkillTable::Count), Entity_GymFighter::SkillCount);
-        QSet<QString> names;
-        for (int skill = 0; skill < SkillTable::Count; ++skill) {
-            const QList<F::Number> set = SkillTable::attributes(skill);
-            QVERIFY2(set.size() >= 4 && set.size() <= 6, qPrintable(SkillTable::name(skill)));
-            QCOMPARE(QSet<F::Number>(set.cbegin(), set.cend()).size(), set.size());
-            for (F::Number attribute : set)
-                QVERIFY(attribute >= F::FirstAttribute && attribute <= F::LastAttribute);
-            names.insert(SkillTable::name(skill));
-            QCOMPARE(SkillTable::indexOf(SkillTable::name(skill)), skill);
-        }
-        QCOMPARE(names.size(), 48);
-        QCOMPARE(SkillTable::indexOf("Body Punching"), -1); // the screens' label, not the training name
-        QCOMPARE(SkillTable::label(SkillTable::BodyPunch), QString("Body Punching"));
-        QCOMPARE(SkillTable::label(SkillTable::DirtyBoxingDefense), QString("Dirty Box Def."));
-        QCOMPARE(SkillTable::name(SkillTable::OffensiveAwareness), QString("Offensive Awareness"));
-        QCOMPARE(SkillTable::label(SkillTable::DefensiveAwareness), QString("Def. Awareness"));
-        QVERIFY(SkillTable::attributes(48).isEmpty());
-    }
-
-    // rows that a typo would break: first, last, and those of four and five attributes
-    void attributeSets_data()
-    {
-        QTest::addColumn<int>("skill");
-        QTest::addColumn<QList<F::Number>>("set");
-
-        QTest::newRow("Jab") << int(SkillTable::Jab) << QList<F::Number>{F::JabSpeed,  F::JabTechnique, F::JabPower,
-                                                                         F::HandSpeed, F::Coordination, F::Precision};
-        QTest::newRow("Footwork") << int(SkillTable::Footwork)
-                                  << QList<F::Number>{F::FootSpeed, F::MoveSpeed, F::Balance, F::Coordination};
-        QTest::newRow("Dazed Guard") << int(SkillTable::DazedGuard)
-                                     << QList<F::Number>{F::Snap,       F::PunchGuardTechnique,
-                                                         F::Durability, F::Willpower,
-                                                         F::Balance,    F::FootSpeed};
-        QTest::newRow("Killer Instinct") << int(SkillTable::KillerInstinct)
-                                         << QList<F::Number>{F::Ferocity, F::Discipline, F::Aggression, F::Willpower,
-                                                             F::PunchPower};
-        QTest::newRow("Perseverance") << int(SkillTable::Perseverance)
-                                      << QList<F::Number>{F::Aggression, F::Willpower,    F::Durability,
-                                                          F::Discipline, F::Conditioning, F::Endurance};
-    }
-
-    void attributeSets()
-    {
-        QFETCH(int, skill);
-        QFETCH(QList<F::Number>, set);
-        QCOMPARE(SkillTable::attributes(skill), set);
-    }
-
     // the counter's limits and the lines of the day's report
     void levelChanges_data()
     {

@@ -1,5 +1,4 @@
 #include "WorldSamples.h"
-#include "world/OrgTable.h"
 
 #include <QtTest>
 
@@ -55,20 +54,6 @@ class tst_Organisation : public QObject
 
 private slots:
     void initTestCase() { Random::useTestClock(3); }
-
-    void theEighteenOrganisations()
-    {
-        QCOMPARE(OrgTable::Count, 18);
-        QCOMPARE(OrgTable::names().size(), 18);
-        QCOMPARE(OrgTable::key(0), QString("G1"));
-        QCOMPARE(OrgTable::name(0), QString("G-1"));
-        QCOMPARE(OrgTable::nameOf("KingsStadium"), QString("King's Stadium"));
-        QCOMPARE(OrgTable::keyOf("Red Storm Global"), QString("RedStorm"));
-        QCOMPARE(OrgTable::name(17), QString("Ivory Throne"));
-        QCOMPARE(OrgTable::keyOf("Nowhere FC"), QString());
-        const QStringList names = OrgTable::names();
-        QCOMPARE(QSet<QString>(names.cbegin(), names.cend()).size(), 18);
-    }
 
     // the roster key follows the score, ties keep both men, and a score may go below 0
     void rankingScoreMoves_data()
