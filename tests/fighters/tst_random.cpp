@@ -102,20 +102,6 @@ private slots:
         QCOMPARE(seenU.size(), top);
         QCOMPARE(seenSigned.size(), 2 * top);
     }
-
-    // a line is picked from five by d100 % 5: each must come up about as often as the others
-    void clockSeededDrawsAreEven()
-    {
-        Random::useTestClock(2011);
-        std::array<int, 5> counts{};
-        const int draws = 100000;
-        for (int i = 0; i < draws; ++i) {
-            Random::seedFromClock();
-            ++counts[Random::d(100) % 5];
-        }
-        for (int count : counts)
-            QVERIFY2(qAbs(count - draws / 5) <= draws / 5 / 20, qPrintable(QString::number(count)));
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_Random)

@@ -77,25 +77,6 @@ private slots:
     void initTestCase() { Random::useTestClock(5); }
     void cleanup() { world().resetWorld(); }
 
-    // a lookup of nobody gives the empty record and changes nothing
-    void packedFormsOfNobody()
-    {
-        world().resetWorld();
-        QCOMPARE(world().getNextId(), 1058);
-        QCOMPARE(world().getCurrentDate(), QDate(2011, 1, 1));
-        QVERIFY(world().fighterStrings(0).startsWith("N/A"));
-        QCOMPARE(world().fighterIdAt(0), 0);
-        QCOMPARE(world().fighterById(1059).getId(), 0);
-        QStringList colours;
-        QList<int> images;
-        world().fighterLook(0, colours, images);
-        QCOMPARE(colours, QStringList({"Red", "Black", "Brown"}));
-        QCOMPARE(images, QList<int>({1, 1, 1}));
-        QVERIFY(world().organisationTexts("G-1").isEmpty());
-        QCOMPARE(world().rosterFighter("G-1", 11).getId(), 0);
-        QVERIFY(!world().promoteStudent(0));
-    }
-
     void packedFormsOfAFighter()
     {
         loadSmallWorld();
@@ -183,24 +164,6 @@ private slots:
         world().advanceDate();
         QCOMPARE(world().getCurrentDate(), QDate(2011, 3, 2));
         QVERIFY(world().todaysWorldEvents().isEmpty());
-    }
-
-    void theNewYear()
-    {
-        World w = smallWorld();
-        w.currentDate = QDate(2011, 1, 1);
-        QVERIFY(w.load());
-        world().dropOldTitles();
-        world().rollOverEvents();
-        const Entity_Org g1 = world().organisation("G-1");
-        Entity_Org::Titles titles;
-        g1.titlesCopy(titles);
-        QCOMPARE(titles.keys(), QStringList{"G-1 World Championship"});
-        QList<Entity_Event> calendar;
-        g1.events(calendar);
-        QCOMPARE(calendar[0].name(), QString("G-1 Championship Fight"));
-        QCOMPARE(calendar[1].date(), QDate(2012, 4, 2));
-        QCOMPARE(world().organisation("Nowhere").name(), QString());
     }
 
     // the career of a roster fighter, and the results of a title fight

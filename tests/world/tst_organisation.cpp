@@ -96,17 +96,6 @@ private slots:
         QCOMPARE(org.rosterFighter(99).getId(), 0);
     }
 
-    void titleRows()
-    {
-        Entity_Org org = promotion({{"G-1 World Championship", "Al Ames"}});
-        org.setTitle("G-1 World Championship", "Bo Bell");
-        org.setTitle("G-1 Grand Prix 2011", "Cy Cole");
-        const Entity_Org::Titles titles = titlesOf(org);
-        QCOMPARE(titles.size(), 2);
-        QCOMPARE(titles.value("G-1 World Championship"), QString("Bo Bell"));
-        QCOMPARE(titles.value("G-1 Grand Prix 2011"), QString("Cy Cole"));
-    }
-
     // a row that names a year goes two years later, whoever holds it
     void dropOldTitles_data()
     {
