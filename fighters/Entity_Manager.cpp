@@ -29,6 +29,34 @@ QString intuitionText(const IntuitionText &table, int intuition, int value)
     return table.rows[value];
 }
 
+// the 18 skills and abilities as the screens name them, in the order of the values from Punch on,
+// each with the heading of its block
+struct SkillName {
+    const char *label;
+    const char *heading;
+};
+
+constexpr SkillName skillNames[Entity_Manager::SkillCount] = {
+    {"Punch", "Training - Offense"},
+    {"Kick", "Training - Offense"},
+    {"Clinch Off.", "Training - Offense"},
+    {"Movement", "Training - Defense"},
+    {"Guard", "Training - Defense"},
+    {"Clinch Def.", "Training - Defense"},
+    {"Power", "Training - Physical"},
+    {"Speed", "Training - Physical"},
+    {"Conditioning", "Training - Physical"},
+    {"Timing", "Training - Mental"},
+    {"Intelligence", "Training - Mental"},
+    {"Discipline", "Training - Mental"},
+    {"Scouting", "Abilities"},
+    {"Motivating", "Abilities"},
+    {"Cornering", "Abilities"},
+    {"Negotiating", "Abilities"},
+    {"Charisma", "Abilities"},
+    {"Intuition", "Abilities"},
+};
+
 template <typename Array, typename List> void copyIn(Array &target, const List &source)
 {
     for (std::size_t i = 0; i < target.size(); ++i)
@@ -40,6 +68,16 @@ template <typename Array, typename List> void copyIn(Array &target, const List &
 Entity_Manager::Entity_Manager()
 {
     texts[ManagerReputation] = ReputationScale::labelOfBand(ReputationScale::Manager, 0);
+}
+
+QString Entity_Manager::skillLabel(int skill)
+{
+    return skill >= 0 && skill < SkillCount ? QString(skillNames[skill].label) : QString();
+}
+
+QString Entity_Manager::skillHeading(int skill)
+{
+    return skill >= 0 && skill < SkillCount ? QString(skillNames[skill].heading) : QString();
 }
 
 void Entity_Manager::pack(QStringList &strings, QList<int> &valueList, QStringList &titleList) const

@@ -38,6 +38,11 @@ public:
     // an unknown manager with no skills
     Entity_Manager();
 
+    // the screens' name of skill n of the 18, from "Punch" to "Intuition"; empty off the list
+    static QString skillLabel(int skill);
+    // the block that skill stands in on the screens, from "Training - Offense" to "Abilities"
+    static QString skillHeading(int skill);
+
     void pack(QStringList &strings, QList<int> &values, QStringList &titles) const;
     // missing entries count as empty
     void unpack(const QStringList &strings, const QList<int> &values, const QStringList &titles);

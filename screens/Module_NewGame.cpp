@@ -27,22 +27,10 @@
 
 namespace {
 
-// the three panels hold two groups each; the 18 boxes run in the order of the manager's skills
-struct SkillGroup {
-    const char *header;
-    std::array<const char *, 3> skills;
-};
-
-constexpr std::array<SkillGroup, 6> skillGroups{{
-    {"Training - Offense", {"Punch", "Kick", "Clinch Off."}},
-    {"Training - Defense", {"Movement", "Guard", "Clinch Def."}},
-    {"Training - Physical", {"Power", "Speed", "Conditioning"}},
-    {"Training - Mental", {"Timing", "Intelligence", "Discipline"}},
-    {"Abilities", {"Scouting", "Motivating", "Cornering"}},
-    {"", {"Negotiating", "Charisma", "Intuition"}},
-}};
+// the three panels hold two columns of three skills each, in the order of the manager's skills
+constexpr int SkillsPerGroup = 3;
 constexpr int GroupsPerPanel = 2;
-constexpr int PanelCount = int(skillGroups.size()) / GroupsPerPanel;
+constexpr int PanelCount = Entity_Manager::SkillCount / (SkillsPerGroup * GroupsPerPanel);
 constexpr int TopSkillLevel = 10;
 
 // the signature styles as the box offers them: places in the list of backgrounds
@@ -204,18 +192,21 @@ QWidget *Module_NewGame::buildSkillPanel(int panel)
     auto *grid = new QGridLayout(frame);
     int row = 0;
     for (int group = panel * GroupsPerPanel; group < (panel + 1) * GroupsPerPanel; ++group) {
-        auto *header = new QLabel(skillGroups[group].header);
+        // a block that goes on from the group before shows no second heading
+        const int first = group * SkillsPerGroup;
+        const QString heading = Entity_Manager::skillHeading(first);
+        auto *header = new QLabel(heading != Entity_Manager::skillHeading(first - 1) ? heading : QString());
         header->setStyleSheet("color: #F4C868;");
         grid->addWidget(header, row++, 0, 1, 2);
-        for (std::size_t skill = 0; skill < skillGroups[group].skills.size(); ++skill) {
-            const int index = group * 3 + int(skill);
+        for (int skill = 0; skill < SkillsPerGroup; ++skill) {
+            const int index = first + skill;
             auto *box = new QSpinBox;
             box->setObjectName(QString("skillBox%1").arg(index));
             box->setRange(0, TopSkillLevel);
             box->setValue(0);
             box->setFixedWidth(60);
             skillBoxes[index] = box;
-            grid->addWidget(new QLabel(skillGroups[group].skills[skill]), row, 0);
+            grid->addWidget(new QLabel(Entity_Manager::skillLabel(index)), row, 0);
             grid->addWidget(box, row++, 1);
         }
     }

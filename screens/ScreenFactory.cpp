@@ -3,10 +3,12 @@
 #include "screens/Module_MainMenu.h"
 #include "screens/Module_NextDay.h"
 #include "screens/Module_Placeholder.h"
+#include "screens/Module_Profile.h"
 #include "screens/Module_SaveLoad.h"
 #include "screens/Module_Training.h"
 #include "shell/TopMenuBar.h"
 #include "world/Entity_Event.h"
+#include "world/GameManager.h"
 
 #include <array>
 
@@ -29,6 +31,8 @@ QWidget *ScreenFactory::build(int buttonId)
 {
     if (buttonId < 0 || buttonId >= TopMenuBar::ButtonCount)
         buttonId = TopMenuBar::Profile;
+    if (buttonId == TopMenuBar::Profile)
+        return new Module_Profile;
     if (buttonId == TopMenuBar::SaveLoad)
         return new Module_SaveLoad;
     if (buttonId == TopMenuBar::Training)
@@ -49,5 +53,9 @@ QWidget *ScreenFactory::buildNextDay()
 QWidget *ScreenFactory::buildFightNight(const Entity_Event &event)
 {
     // the fight night screen is still being built; its place names the night
-    return new Module_Placeholder("Fight Night: " + event.name(), Module_Placeholder::BackToGame);
+    auto *night = new Module_Placeholder("Fight Night: " + event.name(), Module_Placeholder::BackToGame);
+    // the two men of a fantasy night stand in the world only while it runs
+    if (event.isFantasyMatch())
+        QObject::connect(night, &QObject::destroyed, [] { GameManager::instance().removeFantasyFighters(); });
+    return night;
 }

@@ -3,6 +3,7 @@
 #include "shell/ModuleManager.h"
 
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -22,7 +23,8 @@ QString GameDialog::styleSheet()
 GameDialog::GameDialog(QWidget *parent)
     : QDialog(parent)
     , label(new QLabel)
-    , acceptButton(new QPushButton("Accept"))
+    , list(new QListWidget)
+    , acceptButton(new QPushButton(AcceptText))
     , cancelButton(new QPushButton("Cancel"))
 {
     setModal(true);
@@ -34,15 +36,19 @@ GameDialog::GameDialog(QWidget *parent)
     label->setMargin(6);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(label);
+    layout->addWidget(list);
+    list->hide();
+    list->setMinimumHeight(200);
     layout->addWidget(acceptButton);
     layout->addWidget(cancelButton);
     connect(acceptButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-int GameDialog::run(const QString &message, bool withAccept, bool withCancel)
+int GameDialog::run(const QString &message, bool withAccept, bool withCancel, const QString &acceptText)
 {
     label->setText(message);
+    acceptButton->setText(acceptText);
     acceptButton->setVisible(withAccept);
     cancelButton->setVisible(withCancel);
     adjustSize();
@@ -65,6 +71,23 @@ bool GameDialog::ask(const QString &question)
 void GameDialog::tell(const QString &message, Button button)
 {
     run(message, button == AcceptButton, button == CancelButton);
+}
+
+void GameDialog::tell(const QString &message, const QString &buttonText)
+{
+    run(message, true, false, buttonText);
+}
+
+bool GameDialog::choose(const QString &text, const QStringList &items, const QString &chooseText, QString &chosen)
+{
+    list->clear();
+    list->addItems(items);
+    list->show();
+    const bool accepted = run(text, true, true, chooseText) == QDialog::Accepted;
+    const QListWidgetItem *item = list->currentItem();
+    chosen = accepted && item ? item->text() : QString();
+    list->hide();
+    return accepted;
 }
 
 QString GameDialog::text() const

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class QLabel;
+class QListWidget;
 class QPushButton;
 
 // Every question and message of the game: a modal dialog in the game's brown and tan, its text
@@ -22,6 +23,11 @@ public:
     bool ask(const QString &question);
     // a message with one button; what the user presses changes nothing
     void tell(const QString &message, Button button = AcceptButton);
+    // a message whose one button reads `buttonText`
+    void tell(const QString &message, const QString &buttonText);
+    // A list to choose from under the text, with the buttons `chooseText` and "Cancel": true
+    // when the first was pressed, `chosen` then holding the item picked, or nothing.
+    bool choose(const QString &text, const QStringList &items, const QString &chooseText, QString &chosen);
     QString text() const;
 
     // the same, with a dialog of their own
@@ -32,10 +38,13 @@ public:
     static QString styleSheet();
 
 private:
-    int run(const QString &text, bool withAccept, bool withCancel);
+    int run(const QString &text, bool withAccept, bool withCancel, const QString &acceptText = AcceptText);
     void centreOverGame();
 
+    static constexpr const char *AcceptText = "Accept";
+
     QLabel *label;
+    QListWidget *list;
     QPushButton *acceptButton;
     QPushButton *cancelButton;
 };

@@ -43,7 +43,8 @@ void ModuleManager::retire(QWidget *oldModule)
         timer->stop();
     oldModule->hide();
     layout->removeWidget(oldModule);
-    oldModule->setParent(nullptr);
+    // it stays the window's hidden child until then: taking it out of the window would restyle
+    // every widget of it once more just before they go
     oldModule->deleteLater();
 }
 

@@ -19,6 +19,9 @@ class Entity_Event
 public:
     enum Text : int { Name, OrganisationName, City, Prestige, EventType, Title, TextCount };
 
+    // the organisation of a one-night bout against a man of another game, which the world never sees
+    static constexpr const char *FantasyOrganisation = "Fantasy Match";
+
     Entity_Event() = default;
     // the six strings in the order of the enum, the date and the card; no results, not booked
     Entity_Event(const QStringList &strings, const QDate &date, const QList<Entity_Match> &matches);
@@ -43,6 +46,7 @@ public:
     Entity_Match matchAt(int index) const { return card.value(index); }
     QStringList results() const { return resultLines; }
     bool isUserBooked() const { return userBooked; }
+    bool isFantasyMatch() const { return texts[OrganisationName] == QLatin1String(FantasyOrganisation); }
 
     bool hasQualifier() const;
     bool hasChampionship() const;

@@ -1,5 +1,6 @@
 #include "world/GameManager.h"
 
+#include "fighters/GameLists.h"
 #include "fighters/Random.h"
 #include "fighters/ReputationScale.h"
 
@@ -11,6 +12,8 @@ namespace {
 
 // a student has no id of his own until he turns professional
 constexpr int StudentId = 2000;
+// every id below this marks a copy of a fantasy night
+constexpr int FantasyIdLimit = -100;
 
 // the full names of every man of the world and the gym
 QSet<QString> takenNames(const WorldState &world)
@@ -118,4 +121,42 @@ bool GameManager::generateFighter(const FighterGenerator::NameBook &book, QStrin
     man.setId(++saved.nextId);
     saved.freeAgents.insert(man.getRankingScore(), man);
     return false;
+}
+
+int GameManager::importFighter(const Entity_Fighter &man)
+{
+    Entity_Fighter newcomer = man;
+    newcomer.setId(++saved.nextId);
+    // his wins and losses stand, but the nights and belts of another world mean nothing here
+    newcomer.unpack(newcomer.stringList(), newcomer.integerList(), newcomer.getBirthDate(), {}, {});
+    newcomer.setContract("Free Agent", 0);
+    saved.freeAgents.insert(newcomer.getRankingScore(), newcomer);
+    return saved.nextId;
+}
+
+Entity_Event GameManager::makeFantasyEvent(const Entity_Fighter &visitor, int index)
+{
+    Entity_Fighter home = fighterById(fighterIdAt(index)).fighter();
+    Entity_Fighter guest = visitor;
+    // both stand at the top of no ranking, under ids that no man of the world can hold
+    home.setId(FantasyGymFighterId);
+    home.addToRankingScore(-home.getRankingScore());
+    guest.setId(FantasyVisitorId);
+    guest.addToRankingScore(-guest.getRankingScore());
+    saved.amateurs.insert(0, home);
+    saved.amateurs.insert(0, guest);
+
+    Entity_Match bout(GameLists::SingleMatch);
+    bout.unpack({home.fullName(), guest.fullName(), GameLists::SingleMatch, Entity_Match::OpenPlace},
+                FantasyGymFighterId, FantasyVisitorId, false);
+    Entity_Event night;
+    night.unpack({"Fantasy Match: " + home.fullName() + " vs. " + guest.fullName(), Entity_Event::FantasyOrganisation,
+                  "Fantasy Land", "Elite", "Single Event", "No Title"},
+                 QDate(2011, 1, 1), {bout}, {}, true);
+    return night;
+}
+
+void GameManager::removeFantasyFighters()
+{
+    saved.amateurs.removeIf([](const auto &entry) { return entry.value().getId() < FantasyIdLimit; });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fighters/FighterGenerator.h"
+#include "world/Entity_Event.h"
 #include "world/GymOffice.h"
 #include "world/GymPeople.h"
 #include "world/WorldCalendar.h"
@@ -70,6 +71,19 @@ public:
     // unless it is full or no free name is left, and the result is true; without it a free agent
     // takes the next id, and the result is false. `nameOut` gets the full name of the man made.
     bool generateFighter(const FighterGenerator::NameBook &book, QString &nameOut, bool forGym);
+
+    // A man of another game joins the free agents as a new man of this world: a fresh id, no
+    // history, no belts and no contract; his record, looks and ranking score come with him.
+    // Gives his new id.
+    int importFighter(const Entity_Fighter &man);
+    // A one-night bout of the gym fighter at `index` against a man of another game, which the
+    // world never sees: copies of both stand among the amateurs under ids of their own until
+    // removeFantasyFighters(). The event stands in no calendar.
+    Entity_Event makeFantasyEvent(const Entity_Fighter &visitor, int index);
+    void removeFantasyFighters();
+    // the two fantasy copies, the gym's man and his guest
+    static constexpr int FantasyGymFighterId = -116;
+    static constexpr int FantasyVisitorId = -117;
 
 private:
     GameManager();

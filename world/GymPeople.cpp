@@ -8,6 +8,8 @@
 namespace {
 
 constexpr const char *NoRecord = GameLists::NoRecord;
+// the mark between a title and the start of its reign
+const QString ReignFrom = QStringLiteral(" - from ");
 const QDate noBirthDate(2000, 1, 1);
 
 // what the screens show for a place that holds nobody
@@ -275,4 +277,42 @@ void GymPeople::ageUserFighters(QStringList &news)
 {
     // the retirement of old gym fighters joins here with the ageing of the world
     GymRoutine::celebrateBirthdays(world.fighters, world.students, world.currentDate, news);
+}
+
+// --- Men who leave the gym -------------------------------------------------------------------------
+
+void GymPeople::exportFighter(QDataStream &out, int index) const
+{
+    if (isFighterIndex(index))
+        out << world.fighters[index].fighter();
+}
+
+bool GymPeople::retireFighter(int index)
+{
+    if (!isFighterIndex(index))
+        return true;
+    const Entity_GymFighter &man = world.fighters[index];
+    // his organisation takes him off its next card, unless it holds a show today
+    if (Entity_Org *org = world.organisationNamed(man.text(Entity_Fighter::Organisation))) {
+        if (!org->retireGymFighter(man.fullName(), man.getId(), world.currentDate.year() - 1, world.currentDate))
+            return false;
+    }
+    // a world champion who retires ends the manager's reign on that belt
+    for (const QString &title : man.titleList()) {
+        if (title.contains("World Championship") && !title.contains("until"))
+            world.manager.closeTitle(world.currentDate, title.section(ReignFrom, 0, 0));
+    }
+    const int id = man.getId();
+    world.offers.removeIf([id](const Entity_Booking &offer) { return offer.fighterId() == id; });
+    removeGymFighter(index);
+    return true;
+}
+
+void GymPeople::removeGymFighter(qsizetype index)
+{
+    const Entity_GymFighter &man = world.fighters[index];
+    world.manager.removeFromActiveRecord(man.number(Entity_Fighter::Wins), man.number(Entity_Fighter::Losses));
+    const int id = man.getId();
+    world.bookings.removeIf([id](const Entity_Booking &booking) { return booking.fighterId() == id; });
+    world.fighters.removeAt(index);
 }

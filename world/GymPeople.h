@@ -3,6 +3,7 @@
 #include "fighters/Entity_Fighter.h"
 #include "fighters/Entity_GymFighter.h"
 
+#include <QDataStream>
 #include <QDate>
 #include <QList>
 #include <QString>
@@ -62,9 +63,18 @@ public:
     // the birthdays of the gym's fighters and students tonight, with a news line for each
     void ageUserFighters(QStringList &news);
 
+    // The gym fighter at that position as a plain fighter, in the form of an export file: what
+    // only the gym's own men have stays behind. Without him nothing is written.
+    void exportFighter(QDataStream &out, int index) const;
+    // The user sends the man at that position into retirement: false, and nothing changes, when
+    // his organisation holds a show today. With nobody at that position there is nothing to do.
+    bool retireFighter(int index);
+
 private:
     bool isFighterIndex(int index) const;
     bool isStudentIndex(int index) const;
+    // he leaves the gym: his record comes off the manager's running totals, his booking goes
+    void removeGymFighter(qsizetype index);
 
     WorldState &world;
 };

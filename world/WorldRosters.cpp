@@ -107,3 +107,12 @@ int WorldRosters::amateurCount() const
 {
     return int(world.amateurs.size());
 }
+
+Entity_Fighter WorldRosters::amateurById(int id) const
+{
+    for (const Entity_Fighter &amateur : world.amateurs) {
+        if (amateur.getId() == id)
+            return amateur;
+    }
+    return Entity_Fighter();
+}

@@ -37,6 +37,8 @@ public:
     // the world's pools of men without an organisation
     int freeAgentCount() const;
     int amateurCount() const;
+    // a copy; a default record for an id that no amateur holds
+    Entity_Fighter amateurById(int id) const;
 
 private:
     WorldState &world;
