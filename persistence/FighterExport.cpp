@@ -74,9 +74,9 @@ bool refuse(QString *reason, const QString &text)
     return false;
 }
 
-QString notOfThisGame(const QString &what)
+QString notOfThisGame(const QString &why)
 {
-    return QStringLiteral("The file holds no fighter of this game: his %1 is unknown here.").arg(what);
+    return QStringLiteral("The file holds no fighter of this game: %1.").arg(why);
 }
 
 // what a file's man must be to be taken in
@@ -84,23 +84,24 @@ bool isManOfThisGame(const Entity_Fighter &man, QString *reason)
 {
     for (const ListedText &text : listedTexts) {
         if (!text.list().contains(man.text(text.field)))
-            return refuse(reason, notOfThisGame(text.what));
+            return refuse(reason, notOfThisGame(QStringLiteral("his %1 is unknown here").arg(text.what)));
     }
     for (const NumberRange &range : numberRanges) {
         for (int field = range.first; field <= range.last; ++field) {
             const int value = man.number(F::Number(field));
             if (value < range.low || value > range.high)
-                return refuse(reason, notOfThisGame(range.what));
+                return refuse(reason,
+                              notOfThisGame(QStringLiteral("a value of his %1 is out of range").arg(range.what)));
         }
     }
     if (man.number(F::Kos) > man.number(F::Wins))
-        return refuse(reason, notOfThisGame("record"));
+        return refuse(reason, notOfThisGame("his record holds more knockouts than wins"));
     if (!man.getBirthDate().isValid())
-        return refuse(reason, notOfThisGame("birthday"));
+        return refuse(reason, notOfThisGame("his birthday is no date"));
     // he must be able to go out again under his own name
     if (man.text(F::FirstName).isEmpty() || man.text(F::LastName).isEmpty() ||
         !FighterExport::isValidName(man.fullName()))
-        return refuse(reason, notOfThisGame("name"));
+        return refuse(reason, notOfThisGame("his name can't be the name of a file"));
     return true;
 }
 

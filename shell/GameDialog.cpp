@@ -84,7 +84,8 @@ bool GameDialog::choose(const QString &text, const QStringList &items, const QSt
     list->addItems(items);
     list->show();
     const bool accepted = run(text, true, true, chooseText) == QDialog::Accepted;
-    const QListWidgetItem *item = list->currentItem();
+    // the list's focus marks a row without choosing it: only a chosen row counts
+    const QListWidgetItem *item = list->selectedItems().value(0);
     chosen = accepted && item ? item->text() : QString();
     list->hide();
     return accepted;

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
 
@@ -15,18 +16,22 @@
 namespace ScreenTestKit {
 
 // Answers the modal dialogs that come up by pressing the given buttons in turn, and keeps the
-// text and the offered buttons of each; a dialog beyond the script is cancelled and kept too.
+// text and the offered buttons of each; a dialog beyond the script is cancelled and kept too. A
+// dialog that offers a list gets the next of `picks` chosen in it first (an empty pick chooses
+// nothing), and keeps what the list offered.
 class DialogScript : public QObject
 {
 public:
     struct Seen {
         QString text;
         QStringList buttons;
+        QStringList listed;
     };
     QList<Seen> seen;
 
-    explicit DialogScript(const QStringList &presses = {})
+    explicit DialogScript(const QStringList &presses = {}, const QStringList &picks = {})
         : presses(presses)
+        , picks(picks)
     {
         poll();
     }
@@ -44,6 +49,13 @@ private:
     {
         Seen shown;
         shown.text = dialog->findChild<QLabel *>()->text();
+        auto *list = dialog->findChild<QListWidget *>();
+        if (list && list->isVisibleTo(dialog)) {
+            for (int row = 0; row < list->count(); ++row)
+                shown.listed << list->item(row)->text();
+            const QString pick = picks.isEmpty() ? QString() : picks.takeFirst();
+            list->setCurrentItem(list->findItems(pick, Qt::MatchExactly).value(0));
+        }
         const QString wanted = presses.isEmpty() ? QString() : presses.takeFirst();
         QPushButton *pressed = nullptr;
         for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
@@ -61,6 +73,7 @@ private:
     }
 
     QStringList presses;
+    QStringList picks;
 };
 
 // the shown button of the current screen that reads `text`

@@ -1,0 +1,317 @@
+#include "PersistenceKit.h"
+
+#include "common/SavedWorld.h"
+
+#include "fighters/FighterGenerator.h"
+#include "fighters/Random.h"
+#include "fighters/StreamForm.h"
+#include "persistence/FighterExport.h"
+#include "world/Entity_Event.h"
+
+#include <QDirIterator>
+#include <QtTest>
+
+using F = Entity_Fighter;
+using namespace PersistenceKit;
+
+namespace {
+
+const QString exports = QStringLiteral("Resources/Exports/");
+
+// a man as the game makes him, so that everything of him is of this game
+F man(const QString &first, const QString &last, int id, int score)
+{
+    FighterGenerator::Recipe recipe;
+    recipe.today = QDate(2011, 1, 1);
+    F fighter = FighterGenerator::makePerson({4, "Japan"}, first, last, recipe);
+    fighter.setId(id);
+    fighter.addToRankingScore(score - fighter.getRankingScore());
+    return fighter;
+}
+
+// a fighter of the gym with a career: three nights, two of them on one date, a belt and a bio
+// of several lines; and the second block that only the gym's men have
+Entity_GymFighter gymMan(const QString &first, const QString &last, int id, const QString &organisation)
+{
+    Entity_GymFighter pro(man(first, last, id, 5400));
+    pro.unpackExtras({2, 1, 4, 3, 61, 455, 2500}, QList<int>(Entity_GymFighter::ProgressCount, 33), {"a day"});
+    pro.setContract(organisation, organisation == "Free Agent" ? 0 : 3, 2500);
+    pro.setNumber(F::Wins, 7);
+    pro.setNumber(F::Losses, 2);
+    pro.setNumber(F::Kos, 5);
+    pro.addHistoryEntry(QDate(2011, 5, 2), "Win: A One - KO(Jab) - Rd. 1(0:40) - GKO: GKO Spring");
+    pro.addHistoryEntry(QDate(2011, 5, 2), "Win: B Two - Decision - Rd. 3(3:00) - GKO: GKO Spring");
+    pro.addHistoryEntry(QDate(2011, 8, 9), "Loss: C Three - TKO(Knee) - Rd. 2(2:02) - GKO: GKO Summer");
+    pro.setTitleList({"GKO 2011 Grand Prix"});
+    pro.setBio("New Fighter\nHard Hitter\n\nTook the spring by storm.");
+    return pro;
+}
+
+// a world of a gym with these men, and some men of the world beside them
+SavedWorld worldWith(const QList<Entity_GymFighter> &fighters, int nextId)
+{
+    SavedWorld world;
+    world.nextId = nextId;
+    world.currentDate = QDate(2012, 2, 3);
+    world.fighters = fighters;
+    for (const Entity_GymFighter &fighter : fighters)
+        world.bookings << Entity_Booking::emptyFor(fighter.getId(), fighter.fullName(), world.currentDate);
+    world.freeAgents.insert(6000, man("Free", "Agent", 300, 6000));
+    world.amateurs.insert(9000, man("Young", "Amateur", 301, 9000));
+    return world;
+}
+
+QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(exports);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+template <typename Value> QByteArray streamed(const Value &value)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    out << value;
+    return bytes;
+}
+
+// a man's five parts written by hand, so that a count can be wrong
+QByteArray streamedParts(const QStringList &strings, const QList<int> &integers)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    out << strings;
+    StreamForm::writeList(out, integers);
+    out << QDate(1993, 1, 1) << F::History() << QStringList();
+    return bytes;
+}
+
+// every file under the working folder, and the places above it that a name could reach
+QStringList filesAround()
+{
+    QStringList files;
+    for (const char *outside : {"../Escaped.dat", "../../Escaped.dat", "Resources/Escaped.dat", "Escaped.dat"})
+        if (QFileInfo::exists(outside))
+            files << outside;
+    for (QDirIterator it(".", QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext();)
+        files << it.next();
+    files.sort();
+    return files;
+}
+
+} // namespace
+
+class tst_FighterExport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        Random::useTestClock(5);
+        QDir(exports).removeRecursively();
+    }
+
+    void cleanup() { GameManager::instance().resetWorld(); }
+
+    // The file holds the plain record; in another world the man comes back as a new man of that
+    // world: a fresh id, no nights and no belts of the old one, no contract, and everything else
+    // of him as it was, his bio's line breaks included. Each import of the file is a man of his own.
+    void exportAndImportGiveTheSameManWithANewId_data()
+    {
+        QTest::addColumn<QString>("organisation");
+        QTest::addColumn<int>("index");
+        QTest::newRow("a free agent, first of the gym") << "Free Agent" << 0;
+        QTest::newRow("a man under contract, second of the gym") << "GKO" << 1;
+    }
+
+    void exportAndImportGiveTheSameManWithANewId()
+    {
+        QFETCH(QString, organisation);
+        QFETCH(int, index);
+        const QList<Entity_GymFighter> gym{gymMan("Reto", "Meyer", 1101, organisation),
+                                           gymMan("Sami", "Kallio", 1102, organisation)};
+        QVERIFY(worldWith(gym, 1102).load());
+        QString reason;
+        QVERIFY2(FighterExport::write(index, &reason), qPrintable(reason));
+        const QString name = gym[index].fullName();
+        QCOMPARE(FighterExport::exportFiles(), QStringList{name});
+        const QByteArray exported = fileBytes(FighterExport::pathOf(name));
+        QCOMPARE(exported, streamed(gym[index].fighter()));
+
+        // another game, further on in its ids
+        QVERIFY(worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1517).load());
+        QVERIFY2(FighterExport::importFreeAgent(name, &reason), qPrintable(reason));
+        QVERIFY2(FighterExport::importFreeAgent(name, &reason), qPrintable(reason));
+
+        F expected = gym[index].fighter();
+        expected.unpack(expected.stringList(), expected.integerList(), expected.getBirthDate(), {}, {});
+        expected.setContract("Free Agent", 0);
+        const WorldState &after = SavedWorld::running();
+        QCOMPARE(after.nextId, 1519);
+        QCOMPARE(after.freeAgents.size(), 3);
+        QList<int> ids;
+        for (const F &agent : after.freeAgents.values(expected.getRankingScore())) {
+            ids << agent.getId();
+            expected.setId(agent.getId());
+            QVERIFY(agent == expected);
+            QCOMPARE(agent.text(F::Bio), QString("New Fighter\nHard Hitter\n\nTook the spring by storm."));
+        }
+        std::sort(ids.begin(), ids.end());
+        QCOMPARE(ids, QList<int>({1518, 1519}));
+        // the file stays as it was for the next game
+        QCOMPARE(fileBytes(FighterExport::pathOf(name)), exported);
+    }
+
+    // A file that holds no fighter of this game, whole and alone, is refused with its reason, and
+    // neither an import nor a fantasy night leaves a trace: the world saves to the same bytes.
+    void aFileThatHoldsNoFighterIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+
+        const F good = gymMan("Reto", "Meyer", 1101, "GKO").fighter();
+        const QByteArray whole = streamed(good);
+        const int stringsEnd = int(streamed(good.stringList()).size());
+        auto changed = [&](auto change) {
+            F other = good;
+            change(other);
+            return streamed(other);
+        };
+
+        QTest::newRow("an empty file") << QByteArray() << "The file is empty.";
+        QTest::newRow("cut inside the strings") << whole.left(stringsEnd - 5) << "ends before";
+        QTest::newRow("cut inside the integers") << whole.left(stringsEnd + 4 + 50 * 4) << "ends before";
+        QTest::newRow("cut inside the last title") << whole.chopped(3) << "ends before";
+        QTest::newRow("one byte more") << whole + QByteArray(1, '\0') << "more than one";
+        QTest::newRow("two men in one file") << whole + whole << "more than one";
+        QTest::newRow("a saved game") << worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1200).bytes() << "";
+        QTest::newRow("a text file") << QByteArray("Reto Meyer, 7 wins, 2 losses\n") << "";
+        QTest::newRow("eleven strings") << streamedParts(good.stringList().mid(1), good.integerList()) << "damaged";
+        QTest::newRow("94 integers") << streamedParts(good.stringList(), good.integerList().mid(1)) << "damaged";
+        QTest::newRow("a style of no list")
+            << changed([](F &f) { f.setText(F::FightingStyle, "Ninja"); }) << "fighting style is unknown";
+        QTest::newRow("a colour of no list")
+            << changed([](F &f) { f.setText(F::TrimColour, "Pink"); }) << "trim colour";
+        QTest::newRow("a head of no picture")
+            << changed([](F &f) { f.setNumber(F::HeadImage, 9); }) << "head picture is out of range";
+        QTest::newRow("no face picture") << changed([](F &f) { f.setNumber(F::FaceImage, 0); }) << "face picture";
+        QTest::newRow("an attribute far out of range")
+            << changed([](F &f) { f.setNumber(F::Discipline, 5000); }) << "attributes";
+        QTest::newRow("more knockouts than wins")
+            << changed([](F &f) { f.setNumber(F::Kos, 8); }) << "more knockouts than wins";
+        QTest::newRow("no birthday") << changed([](F &f) { f.setBirthDate(QDate()); }) << "birthday is no date";
+        QTest::newRow("a name that leaves the folder")
+            << changed([](F &f) { f.setText(F::LastName, "../Meyer"); }) << "name";
+        QTest::newRow("no first name") << changed([](F &f) { f.setText(F::FirstName, ""); }) << "name";
+    }
+
+    void aFileThatHoldsNoFighterIsRefused()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        QVERIFY(worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1200).load());
+        writeFile(FighterExport::pathOf("Stranger"), bytes);
+        const QByteArray before = worldBytes();
+
+        QString told;
+        QVERIFY(!FighterExport::importFreeAgent("Stranger", &told));
+        QVERIFY2(told.contains(reason) && !told.isEmpty(), qPrintable(told));
+        QCOMPARE(worldBytes(), before);
+
+        Entity_Event night;
+        QVERIFY(!FighterExport::importFantasyMatch("Stranger", 0, night, &told));
+        QVERIFY2(told.contains(reason) && !told.isEmpty(), qPrintable(told));
+        QCOMPARE(worldBytes(), before);
+        QCOMPARE(night.matchCount(), 0);
+    }
+
+    // A man's file takes his full name, and a name that would leave the folder of the exports,
+    // or hide from its list, is refused before anything is written anywhere.
+    void aNameStaysInTheFolderOfTheExports_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("last");
+        QTest::addColumn<bool>("written");
+        QTest::newRow("a plain name") << "Reto"
+                                      << "Meyer" << true;
+        QTest::newRow("accents") << QString("Ümit") << QString("Öztürk") << true;
+        QTest::newRow("an apostrophe") << "Sean"
+                                       << "O'Neil" << true;
+        QTest::newRow("a slash") << "Reto"
+                                 << "../../Escaped" << false;
+        QTest::newRow("a backslash") << "Reto"
+                                     << "..\\Escaped" << false;
+        QTest::newRow("two dots first") << ".."
+                                        << "Escaped" << false;
+        QTest::newRow("a hidden file") << ".Reto"
+                                       << "Meyer" << false;
+        QTest::newRow("a control character") << "Reto"
+                                             << "Me\tyer" << false;
+        QTest::newRow("longer than a file name") << QString(200, 'A') << QString(60, 'B') << false;
+    }
+
+    void aNameStaysInTheFolderOfTheExports()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, last);
+        QFETCH(bool, written);
+        WorkingFolder folder;
+        Entity_GymFighter pro = gymMan("Reto", "Meyer", 1101, "GKO");
+        pro.setText(F::FirstName, first);
+        pro.setText(F::LastName, last);
+        QVERIFY(worldWith({pro}, 1101).load());
+        const QStringList before = filesAround();
+
+        QString reason;
+        QCOMPARE(FighterExport::write(0, &reason), written);
+        if (written) {
+            QVERIFY(QFileInfo(exports + first + " " + last + ".dat").isFile());
+            QCOMPARE(FighterExport::exportFiles(), QStringList{first + " " + last});
+        } else {
+            QVERIFY(!reason.isEmpty());
+            QCOMPARE(filesAround(), before);
+        }
+    }
+
+    // with nobody at that place of the gym there is nobody to write, and no file comes of it
+    void nobodyIsExportedFromAnEmptyPlace()
+    {
+        QVERIFY(worldWith({gymMan("Reto", "Meyer", 1101, "GKO")}, 1101).load());
+        QString reason;
+        QVERIFY(!FighterExport::write(1, &reason));
+        QVERIFY(!FighterExport::write(-1, &reason));
+        QCOMPARE(reason, QString("You have no fighters to export."));
+        QVERIFY(FighterExport::exportFiles().isEmpty());
+    }
+
+    // writing again replaces the man's file whole and leaves no side file behind
+    void aSecondExportReplacesTheFile()
+    {
+        Entity_GymFighter pro = gymMan("Reto", "Meyer", 1101, "GKO");
+        QVERIFY(worldWith({pro}, 1101).load());
+        QVERIFY(FighterExport::write(0));
+        GameManager::instance().setFighterBio(0, "Retired the champion.\nTwice.");
+        QVERIFY(FighterExport::write(0));
+        pro.setBio("Retired the champion.\nTwice.");
+        QCOMPARE(fileBytes(FighterExport::pathOf("Reto Meyer")), streamed(pro.fighter()));
+        QCOMPARE(QDir(exports).entryList(QDir::Files | QDir::Hidden), QStringList{"Reto Meyer.dat"});
+    }
+
+private:
+    // the tests run in a folder of their own, the game's Resources left alone
+    WorkingFolder folder;
+};
+
+QTEST_GUILESS_MAIN(tst_FighterExport)
+#include "tst_fighterexport.moc"
