@@ -43,7 +43,8 @@ constexpr std::array<ListedText, 6> listedTexts{{
 
 // The numbers of a man of this game stand within these bounds. Attributes may stand a little
 // outside 0 to 99 between a change and its clamp, so their bounds are wide; the pictures of the
-// portrait are counted.
+// portrait are counted. His contract is not looked at: a man who fights on without one counts
+// his fights below 0, and he comes in with no contract anyway.
 struct NumberRange {
     int first;
     int last;
@@ -52,11 +53,10 @@ struct NumberRange {
     const char *what;
 };
 
-constexpr std::array<NumberRange, 7> numberRanges{{
+constexpr std::array<NumberRange, 6> numberRanges{{
     {F::Age, F::Age, 0, 150, "age"},
     {F::Wins, F::Kos, 0, 100000, "record"},
     {F::FirstAttribute, F::BodyDurability, -200, 300, "attributes"},
-    {F::ContractFightsLeft, F::ContractFightsLeft, 0, 1000, "contract"},
     {F::BodyImage, F::BodyImage, 1, 21, "body picture"},
     {F::HeadImage, F::HeadImage, 1, 8, "head picture"},
     {F::FaceImage, F::FaceImage, 1, 4, "face picture"},

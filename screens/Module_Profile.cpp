@@ -182,7 +182,7 @@ QWidget *Module_Profile::buildManagerPage()
         const int left = block % 2 * 2;
         const QString heading = Entity_Manager::skillHeading(skill);
         if (skill % SkillsPerBlock == 0 && heading != Entity_Manager::skillHeading(skill - 1))
-            skillGrid->addWidget(subheading(heading), top, left, 1, 2);
+            skillGrid->addWidget(subheading(heading), top, left, 1, 2, Qt::AlignLeft | Qt::AlignBottom);
         skillFields[skill] = readOnlyField(QString("skillField%1").arg(skill));
         skillFields[skill]->setFixedWidth(44);
         skillFields[skill]->setAlignment(Qt::AlignCenter);

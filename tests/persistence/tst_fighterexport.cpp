@@ -130,17 +130,22 @@ private slots:
     void exportAndImportGiveTheSameManWithANewId_data()
     {
         QTest::addColumn<QString>("organisation");
+        QTest::addColumn<int>("fightsLeft");
         QTest::addColumn<int>("index");
-        QTest::newRow("a free agent, first of the gym") << "Free Agent" << 0;
-        QTest::newRow("a man under contract, second of the gym") << "GKO" << 1;
+        QTest::newRow("a free agent, first of the gym") << "Free Agent" << 0 << 0;
+        QTest::newRow("a man under contract, second of the gym") << "GKO" << 3 << 1;
+        // one-off fights without a contract count his fights on below 0
+        QTest::newRow("a free agent who fought on without a contract") << "Free Agent" << -4 << 0;
     }
 
     void exportAndImportGiveTheSameManWithANewId()
     {
         QFETCH(QString, organisation);
+        QFETCH(int, fightsLeft);
         QFETCH(int, index);
-        const QList<Entity_GymFighter> gym{gymMan("Reto", "Meyer", 1101, organisation),
-                                           gymMan("Sami", "Kallio", 1102, organisation)};
+        QList<Entity_GymFighter> gym{gymMan("Reto", "Meyer", 1101, organisation),
+                                     gymMan("Sami", "Kallio", 1102, organisation)};
+        gym[index].setContract(organisation, fightsLeft, 2500);
         QVERIFY(worldWith(gym, 1102).load());
         QString reason;
         QVERIFY2(FighterExport::write(index, &reason), qPrintable(reason));
