@@ -78,7 +78,8 @@ private:
     void refillFighterBox();
     // the export file that the user picks in the list, or false when he picks none
     bool chooseExportFile(QString &name);
-    // what the user is asked before an import, and whether he agreed; false with no fighter for a fantasy match
+    // the question before a man comes in, with what follows on its second line; true when the
+    // user agreed and the file can be opened
     bool confirmImport(const QString &name, const QString &consequence);
     QString shownFighterName() const;
 
