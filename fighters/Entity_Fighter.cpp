@@ -76,6 +76,14 @@ void Entity_Fighter::clampAttributes()
         numbers[i] = std::clamp(numbers[i], 0, 99);
 }
 
+int Entity_Fighter::skillLevel() const
+{
+    int sum = 0;
+    for (int i = FirstAttribute; i <= LastAttribute; ++i)
+        sum += numbers[i];
+    return sum / AttributeCount;
+}
+
 bool Entity_Fighter::operator==(const Entity_Fighter &other) const
 {
     return texts == other.texts && birthDate == other.birthDate && careerHistory == other.careerHistory &&

@@ -164,6 +164,8 @@ public:
     void developOneYear();
     // the news of his birthday, with the age he has now: "Al Ames has turned 25 years old."
     QString birthdayLine() const;
+    // the mean of the 83 attributes, rounded towards 0: what the organisations weigh a man by
+    int skillLevel() const;
 
     // pack, stream and unpack give the same record
     bool operator==(const Entity_Fighter &other) const;

@@ -25,11 +25,17 @@ quint32 nextTestReading(quint32 &state)
 
 // The milliseconds of local time are those of UTC, and a monotonic microsecond count does the
 // work of the processor clock: both come from the vDSO and cost a few nanoseconds.
-uint realClockReading()
+uint realMilliseconds()
 {
     using namespace std::chrono;
     const auto sinceEpoch = system_clock::now().time_since_epoch();
-    const auto msec = duration_cast<milliseconds>(sinceEpoch).count() % 1000;
+    return uint(duration_cast<milliseconds>(sinceEpoch).count() % 1000);
+}
+
+uint realClockReading()
+{
+    using namespace std::chrono;
+    const auto msec = realMilliseconds();
     const auto micros = duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count();
     return uint(msec) + uint(micros);
 }
@@ -56,6 +62,11 @@ uint clockSeed()
 void seedFromClock(int valueAtHand)
 {
     qsrand(clockSeed() + uint(valueAtHand));
+}
+
+int clockMilliseconds()
+{
+    return int(testClock.on ? nextTestReading(testClock.state) % 1000 : realMilliseconds());
 }
 
 void stir(int times, int valueAtHand)

@@ -14,6 +14,8 @@ namespace Random {
 uint clockSeed();
 // qsrand(clockSeed() + valueAtHand)
 void seedFromClock(int valueAtHand = 0);
+// the milliseconds of the time of day alone, 0 to 999, or the test clock's next value folded into them
+int clockMilliseconds();
 // k reseeds from one clock reading: each restarts the generator, so only the last one counts
 void stir(int times, int valueAtHand = 0);
 

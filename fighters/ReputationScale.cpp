@@ -84,3 +84,22 @@ QString ReputationScale::fromRanking(int value)
         ++row;
     return rankingTable[row].label ? QString(rankingTable[row].label) : QString();
 }
+
+int ReputationScale::placeOnRankingScale(const QString &label)
+{
+    int place = 0;
+    for (const RankingRow &row : rankingTable) {
+        if (!row.label)
+            continue;
+        if (label == QLatin1String(row.label))
+            return place;
+        ++place;
+    }
+    return -1;
+}
+
+int ReputationScale::placeOnPointsScale(const QString &label)
+{
+    const int band = bandOfLabel(Fighter, label);
+    return band < 0 ? -1 : BandCount - 1 - band;
+}

@@ -23,4 +23,11 @@ public:
 
     // the label for a value near a ranking score; an empty text where the label stays as it is
     static QString fromRanking(int value);
+
+    // A man's place on a scale of fighters' labels, counted from the top, 0 for "Legendary"; -1
+    // for a label that stands on neither scale. The organisations sign men by the order of the
+    // ranking's labels and negotiate with the user by the order of the points' labels: the two
+    // differ in "World Class" and "International Superstar".
+    static int placeOnRankingScale(const QString &label);
+    static int placeOnPointsScale(const QString &label);
 };

@@ -119,10 +119,9 @@ void DayFlow::fightEvent(Entity_Event event)
     world.refreshReputations(orgName);
 }
 
-QString DayFlow::advanceTournamentWinner(int, const QString &)
+QString DayFlow::advanceTournamentWinner(int winnerId, const QString &orgName)
 {
-    // GameManager::advanceTournamentWinner joins here: it books the winner into the next round
-    return QString();
+    return world.advanceTournamentWinner(winnerId, orgName);
 }
 
 void DayFlow::fighterNews()
@@ -135,14 +134,19 @@ void DayFlow::fighterNews()
 
 void DayFlow::contractNews()
 {
-    // signFreeAgents fills the first list and processContracts the second when they join here
-    printLines("Free Agent News: ", {});
-    printLines("Contract News: ", {});
+    QStringList signings;
+    dayTally.signings += world.signFreeAgents(signings);
+    QStringList contracts;
+    const WorldContracts::Moves moves = world.processContracts(contracts);
+    dayTally.renewals += moves.renewals;
+    dayTally.releases += moves.releases;
+    printLines("Free Agent News: ", signings);
+    printLines("Contract News: ", contracts);
 }
 
 void DayFlow::removeExpiredOffers()
 {
-    // GameManager::removeExpiredOffers joins here: offers for nights less than a week off go
+    world.removeExpiredOffers();
 }
 
 void DayFlow::bookingNews()
@@ -152,7 +156,7 @@ void DayFlow::bookingNews()
 
 void DayFlow::makeOffers()
 {
-    // GameManager::makeOffers joins here: the one-off offers of the organisations to the gym
+    world.makeOffers();
 }
 
 void DayFlow::calendarJobs()

@@ -37,6 +37,13 @@ public:
         int technicalKnockouts = 0;
         int decisions = 0;
         int titleChanges = 0;
+        // how the pools of men moved
+        int signings = 0;
+        int renewals = 0;
+        int releases = 0;
+        int retirements = 0;
+        int newProfessionals = 0;
+        int newTalent = 0;
     };
     const Tally &tally() const { return dayTally; }
 

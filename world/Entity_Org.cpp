@@ -1,8 +1,14 @@
 #include "world/Entity_Org.h"
 
+#include "fighters/Random.h"
+#include "fighters/ReputationScale.h"
+#include "fighters/ResultEntry.h"
 #include "fighters/StreamForm.h"
+#include "world/PrestigeTable.h"
 
 #include <algorithm>
+#include <climits>
+#include <iterator>
 
 void Entity_Org::pack(QStringList &strings, QList<Entity_Event> &events, QList<Entity_Event> &pastEvents,
                       Roster &rosterOut, Titles &titlesOut) const
@@ -203,6 +209,215 @@ void Entity_Org::refreshReputations()
 {
     for (Entity_Fighter &fighter : roster)
         fighter.updateReputationFromRanking();
+}
+
+// --- Contracts ---------------------------------------------------------------------------------
+
+namespace {
+
+constexpr const char *FreeAgent = "Free Agent";
+constexpr const char *LastingTitle = "World Championship";
+// the results that tell a man's form
+constexpr int FormResults = 5;
+// a man is asked to stay from the moment he has this many fights left, less one
+constexpr int RenewalBelow = 3;
+constexpr int SigningFights = 4;
+// a renewal runs for 3 to 7 fights
+constexpr int RenewalLeast = 3;
+constexpr int RenewalSpread = 5;
+
+// a failed negotiation moves the organisation one step down, to stay at the last
+constexpr const char *patience[] = {"Willing", "Tentative", "Unwilling"};
+
+// a man of low marketability is turned away when the mood of the day falls below his line
+struct MarketabilityRow {
+    int marketability;
+    int moodBelow;
+};
+constexpr MarketabilityRow marketabilityTable[] = {{0, -10}, {1, -13}, {2, -16}};
+
+// the mood of a bad day takes a part of the money off, a good day adds one
+// the part, the offer divided by `divisor`, is taken off (below 0) or added; 0 leaves the offer
+struct MoodRow {
+    int moodBelow;
+    int divisor;
+};
+constexpr MoodRow moodMoneyTable[] = {{-10, -10}, {-5, -20}, {6, 0}, {INT_MAX, 20}};
+
+// the least that an organisation offers: for one fight and for a contract
+constexpr int OneFightFloor = 1500;
+constexpr int ContractFloor = 1000;
+
+// the win or loss of each of his last five results, a draw nothing
+int formOf(const Entity_Fighter::History &history)
+{
+    int form = 0;
+    int counted = 0;
+    for (auto it = history.cend(); it != history.cbegin() && counted < FormResults; ++counted) {
+        --it;
+        const ResultEntry entry(*it);
+        form += entry.isWin() ? 1 : entry.isLoss() ? -1 : 0;
+    }
+    return form;
+}
+
+// A champion whose contract ran out with his last fight, and who is taken back the night after,
+// holds his belt still: the end that the contract put to his reign is taken back with it.
+void restoreReigns(Entity_Fighter &man, const Entity_Org::Titles &titles)
+{
+    QStringList reigns = man.titleList();
+    for (auto row = titles.cbegin(); row != titles.cend(); ++row) {
+        if (!row.key().contains(LastingTitle) || row.value() != man.fullName())
+            continue;
+        const bool open = std::any_of(reigns.cbegin(), reigns.cend(), [&](const QString &reign) {
+            return reign.contains(row.key()) && !reign.contains("until");
+        });
+        for (qsizetype i = reigns.size() - 1; i >= 0 && !open; --i) {
+            if (reigns[i].contains(row.key())) {
+                reigns[i].truncate(reigns[i].indexOf(" until "));
+                break;
+            }
+        }
+    }
+    man.setTitleList(reigns);
+}
+
+} // namespace
+
+bool Entity_Org::wantsFighter(const Entity_Fighter &man) const
+{
+    const int sign = formOf(man.history()) < 0 ? -1 : 1;
+    // this test seeds by the hundredths of the second alone
+    qsrand(uint(Random::clockMilliseconds() / 10));
+    const int value = man.skillLevel() + (qrand() % 10 + 1) * sign;
+    if (roster.size() < ShortRoster)
+        return true;
+    if (roster.size() > FullRoster)
+        return false;
+    const PrestigeTable::Row &level = PrestigeTable::row(prestige());
+    if (value < level.signingLow || value > level.signingHigh)
+        return false;
+    // one man in four whom it would take is turned away all the same
+    return (qrand() & 3) != 0;
+}
+
+void Entity_Org::signFighter(Entity_Fighter man)
+{
+    man.setContract(name(), SigningFights);
+    roster.insert(man.getRankingScore(), man);
+}
+
+int Entity_Org::renewContracts(QStringList &news)
+{
+    int renewed = 0;
+    for (auto it = roster.begin(); it != roster.end(); ++it) {
+        Entity_Fighter &man = it.value();
+        if (man.number(Entity_Fighter::ContractFightsLeft) >= RenewalBelow)
+            continue;
+        Random::seedFromClock();
+        const int draw = qrand();
+        if (!wantsFighter(man))
+            continue;
+        const bool ranOut = man.text(Entity_Fighter::Organisation) == QLatin1String(FreeAgent);
+        man.setContract(name(), draw % RenewalSpread + RenewalLeast);
+        if (ranOut)
+            restoreReigns(man, titles);
+        news << man.fullName() + " has renewed his contract with " + name();
+        ++renewed;
+    }
+    return renewed;
+}
+
+QList<Entity_Fighter> Entity_Org::releaseFreeAgents()
+{
+    QList<Entity_Fighter> leaving;
+    for (auto it = roster.begin(); it != roster.end();) {
+        if (it.value().text(Entity_Fighter::Organisation) != QLatin1String(FreeAgent)) {
+            ++it;
+            continue;
+        }
+        const QString fullName = it.value().fullName();
+        // a tournament's row stays with him
+        vacateFirstTitle([&](const QString &title, const QString &holder) {
+            return title.contains(LastingTitle) && holder.contains(fullName);
+        });
+        leaving.append(it.value());
+        it = roster.erase(it);
+    }
+    return leaving;
+}
+
+bool Entity_Org::negotiate(const Entity_GymFighter &man, int fights, int money, int negotiating, QString &message)
+{
+    if (willingness() == QLatin1String(patience[2])) {
+        message = "This company is unwilling to negotiate with you for the time being.";
+        return false;
+    }
+    Random::seedFromClock();
+    const bool bad = qrand() % 2 != 0;
+    int mood = qrand() % 15 + 1;
+    if (bad)
+        mood = -mood;
+    if (willingness() == QLatin1String(patience[1]))
+        mood -= 10;
+    return weighOffer(man, mood, fights, money, negotiating, message);
+}
+
+bool Entity_Org::weighOffer(const Entity_GymFighter &man, int mood, int fights, int money, int negotiating,
+                            QString &message)
+{
+    const PrestigeTable::Row &level = PrestigeTable::row(prestige());
+    const bool oneFight = fights == 1;
+    const int reputationLimit = oneFight ? level.oneFightReputation : level.contractReputation;
+    const int skillBar = oneFight ? level.oneFightSkill : level.contractSkill;
+    const auto marketable = [&] {
+        for (const MarketabilityRow &row : marketabilityTable) {
+            if (row.marketability == man.marketability)
+                return mood >= row.moodBelow;
+        }
+        return true;
+    };
+
+    bool accepted = false;
+    if (ReputationScale::placeOnPointsScale(man.text(Entity_Fighter::Reputation)) > reputationLimit)
+        message = "Your fighter does not have a good enough reputation for this company.";
+    else if (man.skillLevel() + mood < skillBar)
+        message = "Your fighter is not at a high enough skill level to be competing in this company.";
+    else if (!marketable())
+        message = "Your fighter is not marketable enough for the company.\nHe may possess a lack of charisma.";
+    else
+        accepted = moneyAccepted(man.reputationPoints, mood, fights, money, negotiating, message);
+    if (!accepted) {
+        const auto step = std::find_if(std::begin(patience), std::end(patience),
+                                       [&](const char *level) { return willingness() == QLatin1String(level); });
+        if (step != std::end(patience) && step + 1 != std::end(patience))
+            setWillingness(*(step + 1));
+    }
+    return accepted;
+}
+
+bool Entity_Org::moneyAccepted(int reputationPoints, int mood, int fights, int money, int negotiating,
+                               QString &message) const
+{
+    int offer = (reputationPoints + 1) * (negotiating + 1) * PrestigeTable::row(prestige()).moneyFactor;
+    // a single appearance pays more
+    if (fights == 1)
+        offer += offer / 2;
+    for (const MoodRow &row : moodMoneyTable) {
+        if (mood < row.moodBelow) {
+            if (row.divisor != 0)
+                offer += offer / row.divisor;
+            break;
+        }
+    }
+    const int floor = fights == 1 ? OneFightFloor : ContractFloor;
+    if (offer <= floor)
+        offer += floor;
+    if (offer < money) {
+        message = "Your money demands are too high.";
+        return false;
+    }
+    return true;
 }
 
 bool Entity_Org::operator==(const Entity_Org &other) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fighters/Entity_Fighter.h"
+#include "fighters/Entity_GymFighter.h"
 #include "world/Entity_Event.h"
 
 #include <QDataStream>
@@ -79,6 +80,30 @@ public:
     // the career entry of a roster fighter, dated today
     void recordMatch(const QDate &today, int id, const QString &entry, const QString &matchType);
     void refreshReputations();
+
+    // --- Contracts -----------------------------------------------------------------------------
+    // Below this many men an organisation signs anybody; above the full roster, nobody.
+    static constexpr int ShortRoster = 31;
+    static constexpr int FullRoster = 49;
+
+    // The test that signs and renews the men of the world: his skill level, moved by his form,
+    // must lie in the band of the prestige; the roster's size may decide alone.
+    bool wantsFighter(const Entity_Fighter &man) const;
+    // a new signing: this organisation for 4 fights, in the roster under his ranking score
+    void signFighter(Entity_Fighter man);
+    // Each man with fewer than 3 fights left is asked to stay, every night anew; the news lines
+    // of those who do, and how many they are.
+    int renewContracts(QStringList &news);
+    // the men whose last fight used up the contract leave; a world title of theirs falls vacant
+    QList<Entity_Fighter> releaseFreeAgents();
+
+    // The user asks this organisation to take his man for `fights` fights (1: one appearance) at
+    // `money` a fight. The reason of a refusal goes to `message`; a refusal costs patience.
+    bool negotiate(const Entity_GymFighter &man, int fights, int money, int negotiating, QString &message);
+    // the same once the organisation's mood of the day is drawn
+    bool weighOffer(const Entity_GymFighter &man, int mood, int fights, int money, int negotiating, QString &message);
+    // whether the purse asked for lies within what the organisation offers
+    bool moneyAccepted(int reputationPoints, int mood, int fights, int money, int negotiating, QString &message) const;
 
     bool operator==(const Entity_Org &other) const;
 

@@ -10,8 +10,8 @@
 struct WorldState;
 
 // The date and the nights of every organisation's calendar: what is fought today, the results of
-// a night, the booking of the cards and the move to a new year. Tournaments and the fantasy
-// match join this room.
+// a night, the booking of the cards, the tournaments and the move to a new year. The fantasy
+// match joins this room.
 class WorldCalendar
 {
 public:
@@ -29,6 +29,14 @@ public:
     QStringList bookEvents();
     // the first of January: every organisation's calendar moves on a year
     void rollOverEvents();
+
+    // A tournament is a shape of an organisation's calendar: a night of qualifiers, then a finals
+    // night of quarterfinals, semifinals and the final. The winner of each round before the final
+    // is carried on at once into the first open place of the next round, so the order of the
+    // results makes the bracket. This places him and gives the news line; an empty text when the
+    // id is neither in the roster nor in the gym. A full card sends him to the organisation's next
+    // night; tonight's card keeps him while it has room.
+    QString advanceTournamentWinner(int winnerId, const QString &orgName);
 
 private:
     // every event of every calendar that passes the test, in organisation and calendar order

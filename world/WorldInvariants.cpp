@@ -4,11 +4,44 @@
 #include "world/WorldState.h"
 
 #include <QHash>
+#include <QSet>
+
+#include <algorithm>
 
 namespace {
 
 // the two copies of a fantasy match carry ids below -100 and stand beside their originals
 constexpr int fantasyIdLimit = -100;
+// the one id that all students share until they turn professional
+constexpr int studentId = 2000;
+constexpr const char *FreeAgent = "Free Agent";
+
+// every man of the world and the gym but the students, with the place he stands in
+template <typename Visit>
+void everyMan(const QList<Entity_Org> &organisations, const QList<Entity_GymFighter> &gym,
+              const QMultiMap<int, Entity_Fighter> &freeAgents, const QMultiMap<int, Entity_Fighter> &amateurs,
+              Visit visit)
+{
+    for (const Entity_GymFighter &man : gym)
+        visit(man, QStringLiteral("the gym"));
+    for (const Entity_Fighter &man : freeAgents)
+        visit(man, QStringLiteral("the free agents"));
+    for (const Entity_Fighter &man : amateurs)
+        visit(man, QStringLiteral("the amateurs"));
+    for (const Entity_Org &organisation : organisations) {
+        Entity_Org::Roster roster;
+        organisation.rosterCopy(roster);
+        for (const Entity_Fighter &man : std::as_const(roster))
+            visit(man, organisation.name());
+    }
+}
+
+// the tournament's later rounds are the one way onto a card twice
+bool isLaterRound(const QString &matchType)
+{
+    return matchType == QLatin1String(Entity_Match::TournamentSemifinal) ||
+           matchType == QLatin1String(Entity_Match::TournamentFinal);
+}
 
 } // namespace
 
@@ -19,6 +52,10 @@ QStringList WorldInvariants::check(const WorldState &world)
     checkRosterKeys(world, faults);
     checkBookings(world, faults);
     checkPastNightsFought(world, faults);
+    checkContracts(world, faults);
+    checkChampions(world, faults);
+    checkCards(world, faults);
+    checkIds(world, faults);
     return faults;
 }
 
@@ -38,18 +75,7 @@ void WorldInvariants::checkEveryManStandsOnce(const WorldState &world, QStringLi
         else
             placeOf.insert(man.getId(), place);
     };
-    for (const Entity_GymFighter &man : world.fighters)
-        stand(man, "the gym");
-    for (const Entity_Fighter &man : world.freeAgents)
-        stand(man, "the free agents");
-    for (const Entity_Fighter &man : world.amateurs)
-        stand(man, "the amateurs");
-    for (const Entity_Org &organisation : world.organisations) {
-        Entity_Org::Roster roster;
-        organisation.rosterCopy(roster);
-        for (const Entity_Fighter &man : roster)
-            stand(man, organisation.name());
-    }
+    everyMan(world.organisations, world.fighters, world.freeAgents, world.amateurs, stand);
 }
 
 void WorldInvariants::checkRosterKeys(const WorldState &world, QStringList &faults)
@@ -105,4 +131,110 @@ void WorldInvariants::checkPastNightsFought(const WorldState &world, QStringList
                 faults << QString("%1 of %2 on %3 passed without results")
                               .arg(night.name(), organisation.name(), night.date().toString(Qt::TextDate));
     }
+}
+
+// A roster man is under contract with his organisation, and nobody has fewer than 0 fights left.
+void WorldInvariants::checkContracts(const WorldState &world, QStringList &faults)
+{
+    for (const Entity_Org &organisation : world.organisations) {
+        Entity_Org::Roster roster;
+        organisation.rosterCopy(roster);
+        for (const Entity_Fighter &man : std::as_const(roster)) {
+            const QString contract = man.text(Entity_Fighter::Organisation);
+            if (contract == QLatin1String(FreeAgent))
+                faults << QString("%1 stands in %2 as a free agent").arg(man.fullName(), organisation.name());
+            else if (contract != organisation.name())
+                faults << QString("%1 stands in %2 under a contract with %3")
+                              .arg(man.fullName(), organisation.name(), contract);
+        }
+    }
+    everyMan(world.organisations, world.fighters, world.freeAgents, world.amateurs,
+             [&](const Entity_Fighter &man, const QString &place) {
+                 const int left = man.number(Entity_Fighter::ContractFightsLeft);
+                 if (left < 0)
+                     faults << QString("%1 in %2 has %3 fights left").arg(man.fullName(), place).arg(left);
+             });
+}
+
+// Whoever a title row names, if his organisation holds him, holds an open reign on that title.
+void WorldInvariants::checkChampions(const WorldState &world, QStringList &faults)
+{
+    for (const Entity_Org &organisation : world.organisations) {
+        Entity_Org::Roster roster;
+        organisation.rosterCopy(roster);
+        QHash<QString, QStringList> reignsOf;
+        for (const Entity_Fighter &man : std::as_const(roster))
+            reignsOf.insert(man.fullName(), man.titleList());
+        for (const Entity_GymFighter &man : world.fighters)
+            if (man.text(Entity_Fighter::Organisation) == organisation.name())
+                reignsOf.insert(man.fullName(), man.titleList());
+        Entity_Org::Titles titles;
+        organisation.titlesCopy(titles);
+        for (auto row = titles.cbegin(); row != titles.cend(); ++row) {
+            const auto reigns = reignsOf.constFind(row.value());
+            // a holder who has left keeps last year's tournament row
+            if (reigns == reignsOf.cend())
+                continue;
+            const bool open = std::any_of(reigns->cbegin(), reigns->cend(), [&](const QString &reign) {
+                return reign.contains(row.key()) && !reign.contains("until");
+            });
+            if (!open)
+                faults << QString("%1 holds %2 with no open reign in his record").arg(row.value(), row.key());
+        }
+    }
+}
+
+// A man stands once on a card, but for a tournament's later rounds; a night that has passed had
+// every place filled; a night to come names only men whom its organisation holds, or the user's.
+void WorldInvariants::checkCards(const WorldState &world, QStringList &faults)
+{
+    QSet<int> gymIds;
+    for (const Entity_GymFighter &man : world.fighters)
+        gymIds.insert(man.getId());
+    for (const Entity_Org &organisation : world.organisations) {
+        QList<Entity_Event> calendar;
+        organisation.events(calendar);
+        for (const Entity_Event &night : calendar) {
+            const QString where =
+                QString("%1 of %2 on %3").arg(night.name(), organisation.name(), night.date().toString(Qt::TextDate));
+            QHash<int, int> earlyPlaces;
+            QHash<QString, QSet<int>> laterPlaces;
+            bool open = false;
+            for (const Entity_Match &match : night.matches()) {
+                open = open || !match.isFilled();
+                for (const int id : {match.fighterOneId(), match.fighterTwoId()}) {
+                    if (id == 0)
+                        continue;
+                    if (isLaterRound(match.matchType())) {
+                        if (laterPlaces[match.matchType()].contains(id))
+                            faults << QString("id %1 stands twice in a %2 of %3").arg(id).arg(match.matchType(), where);
+                        laterPlaces[match.matchType()].insert(id);
+                    } else if (++earlyPlaces[id] == 2) {
+                        faults << QString("id %1 stands twice on %2").arg(id).arg(where);
+                    }
+                    if (night.date() >= world.currentDate && night.results().isEmpty() &&
+                        !organisation.holdsFighter(id) && !gymIds.contains(id))
+                        faults << QString("%1 names id %2, whom %3 does not hold")
+                                      .arg(where)
+                                      .arg(id)
+                                      .arg(organisation.name());
+                }
+            }
+            if (open && night.date() < world.currentDate)
+                faults << QString("%1 passed with open places").arg(where);
+        }
+    }
+}
+
+// Every id was given out: none lies above the last one.
+void WorldInvariants::checkIds(const WorldState &world, QStringList &faults)
+{
+    everyMan(world.organisations, world.fighters, world.freeAgents, world.amateurs,
+             [&](const Entity_Fighter &man, const QString &place) {
+                 if (man.getId() > world.nextId && man.getId() != studentId)
+                     faults << QString("%1 in %2 has the id %3, above the last one given out, %4")
+                                   .arg(man.fullName(), place)
+                                   .arg(man.getId())
+                                   .arg(world.nextId);
+             });
 }

@@ -16,4 +16,8 @@ private:
     static void checkRosterKeys(const WorldState &world, QStringList &faults);
     static void checkBookings(const WorldState &world, QStringList &faults);
     static void checkPastNightsFought(const WorldState &world, QStringList &faults);
+    static void checkContracts(const WorldState &world, QStringList &faults);
+    static void checkChampions(const WorldState &world, QStringList &faults);
+    static void checkCards(const WorldState &world, QStringList &faults);
+    static void checkIds(const WorldState &world, QStringList &faults);
 };

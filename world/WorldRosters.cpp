@@ -1,6 +1,23 @@
 #include "world/WorldRosters.h"
 
+#include "fighters/ReputationScale.h"
+#include "world/PrestigeTable.h"
 #include "world/WorldState.h"
+
+namespace {
+
+// takes the man of that id out from among those of that key
+void takeOut(QMultiMap<int, Entity_Fighter> &pool, int key, int id)
+{
+    for (auto it = pool.find(key); it != pool.end() && it.key() == key; ++it) {
+        if (it->getId() == id) {
+            pool.erase(it);
+            return;
+        }
+    }
+}
+
+} // namespace
 
 WorldRosters::WorldRosters(WorldState &world)
     : world(world)
@@ -115,4 +132,32 @@ Entity_Fighter WorldRosters::amateurById(int id) const
             return amateur;
     }
     return Entity_Fighter();
+}
+
+// --- Signings ----------------------------------------------------------------------------------------
+
+int WorldRosters::signFreeAgents(QStringList &news)
+{
+    int signings = 0;
+    for (Entity_Org &organisation : world.organisations) {
+        const int famousBelow = PrestigeTable::row(organisation.prestige()).famousBelow;
+        // the walk goes over a copy: a man signed leaves the list under it
+        const QMultiMap<int, Entity_Fighter> pool = world.freeAgents;
+        for (auto it = pool.cbegin(); it != pool.cend(); ++it) {
+            const Entity_Fighter &man = it.value();
+            // a short roster looks at everybody, a full one only at the famous
+            const bool looks = organisation.rosterSize() < Entity_Org::ShortRoster ||
+                               ReputationScale::placeOnRankingScale(man.text(Entity_Fighter::Reputation)) < famousBelow;
+            if (!looks || !organisation.wantsFighter(man))
+                continue;
+            organisation.signFighter(man);
+            news << man.fullName() + " has been signed by " + organisation.name() + ".";
+            takeOut(world.freeAgents, it.key(), man.getId());
+            ++signings;
+            // so an organisation of that size signs one famous man a night at most
+            if (organisation.rosterSize() >= Entity_Org::ShortRoster)
+                break;
+        }
+    }
+    return signings;
 }

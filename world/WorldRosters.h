@@ -10,8 +10,8 @@
 struct WorldState;
 
 // The organisations and the men of the world: rosters, rankings, careers, titles and
-// reputations, and the pools of free agents and amateurs. The world's ageing and its signing of
-// free agents join this room.
+// reputations, the pools of free agents and amateurs, and the signing of free agents. The world's
+// ageing joins this room.
 class WorldRosters
 {
 public:
@@ -39,6 +39,11 @@ public:
     int amateurCount() const;
     // a copy; a default record for an id that no amateur holds
     Entity_Fighter amateurById(int id) const;
+
+    // Each organisation in turn looks through the free agents in their order: one whose roster is
+    // short takes anybody whom its test takes, a full one only the famous; the men signed are
+    // counted.
+    int signFreeAgents(QStringList &news);
 
 private:
     WorldState &world;

@@ -1,5 +1,6 @@
 #include "WorldReport.h"
 
+#include "world/Entity_Match.h"
 #include "world/GameManager.h"
 
 #include <QByteArray>
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 
 namespace {
 
@@ -33,6 +35,7 @@ void WorldReport::addDay(const QDate &day, const DayFlow::Tally &tally, qint64 m
         currentYear = day.year();
         smallestRoster = INT_MAX;
         largestRoster = 0;
+        fewestFreeAgents = INT_MAX;
     }
     days.append({day, tally.matches, microseconds});
     yearTally.events += tally.events;
@@ -41,6 +44,13 @@ void WorldReport::addDay(const QDate &day, const DayFlow::Tally &tally, qint64 m
     yearTally.technicalKnockouts += tally.technicalKnockouts;
     yearTally.decisions += tally.decisions;
     yearTally.titleChanges += tally.titleChanges;
+    yearTally.signings += tally.signings;
+    yearTally.renewals += tally.renewals;
+    yearTally.releases += tally.releases;
+    yearTally.retirements += tally.retirements;
+    yearTally.newProfessionals += tally.newProfessionals;
+    yearTally.newTalent += tally.newTalent;
+    fewestFreeAgents = std::min(fewestFreeAgents, world.freeAgentCount());
     for (const QString &name : world.organisationNames()) {
         const int size = world.organisation(name).rosterSize();
         smallestRoster = std::min(smallestRoster, size);
@@ -63,8 +73,29 @@ QStringList WorldReport::finishYear(const GameManager &world)
                  .arg(share(t.knockouts, t.matches), share(t.technicalKnockouts, t.matches),
                       share(t.decisions, t.matches));
     lines << QString("  title changes: %1").arg(t.titleChanges);
+    int finals = 0;
+    const QStringList winners = tournamentWinners(world, currentYear, finals);
+    lines << QString("  tournaments: %1 finals, %2 winners").arg(finals).arg(winners.size());
+    for (const QString &winner : winners)
+        lines << "    " + winner;
     lines << QString("  rosters: smallest %1, largest %2").arg(smallestRoster).arg(largestRoster);
-    lines << QString("  at the end: %1 free agents, %2 amateurs").arg(freeAgents).arg(amateurs);
+    double meanAge = 0;
+    double ageSpread = 0;
+    rosterAges(world, meanAge, ageSpread);
+    lines << QString("  roster ages: mean %1, spread %2")
+                 .arg(QString::number(meanAge, 'f', 1), QString::number(ageSpread, 'f', 1));
+    lines << QString("  contracts: %1 signings, %2 renewals, %3 releases")
+                 .arg(t.signings)
+                 .arg(t.renewals)
+                 .arg(t.releases);
+    lines << QString("  ageing: %1 retirements, %2 new professionals, %3 new talent")
+                 .arg(t.retirements)
+                 .arg(t.newProfessionals)
+                 .arg(t.newTalent);
+    lines << QString("  at the end: %1 free agents (fewest %2), %3 amateurs")
+                 .arg(freeAgents)
+                 .arg(fewestFreeAgents)
+                 .arg(amateurs);
     if (withTimes) {
         QList<Day> byTime = days;
         std::sort(byTime.begin(), byTime.end(),
@@ -84,6 +115,53 @@ QStringList WorldReport::finishYear(const GameManager &world)
     return lines;
 }
 
+QStringList WorldReport::tournamentWinners(const GameManager &world, int year, int &finals)
+{
+    QStringList winners;
+    finals = 0;
+    for (const QString &name : world.organisationNames()) {
+        const Entity_Org organisation = world.organisation(name);
+        QList<Entity_Event> nights;
+        organisation.pastEvents(nights);
+        organisation.events(nights);
+        Entity_Org::Titles titles;
+        organisation.titlesCopy(titles);
+        for (const Entity_Event &night : std::as_const(nights)) {
+            const QList<Entity_Match> card = night.matches();
+            const bool finalsNight = std::any_of(card.cbegin(), card.cend(), [](const Entity_Match &match) {
+                return match.matchType() == QLatin1String(Entity_Match::TournamentFinal);
+            });
+            if (!finalsNight || night.date().year() != year || night.results().isEmpty())
+                continue;
+            ++finals;
+            const QString holder = titles.value(night.title());
+            if (!holder.isEmpty() && holder != QLatin1String(Entity_Org::VacantTitle))
+                winners << night.title() + " to " + holder;
+        }
+    }
+    return winners;
+}
+
+void WorldReport::rosterAges(const GameManager &world, double &mean, double &spread)
+{
+    QList<int> ages;
+    for (const QString &name : world.organisationNames()) {
+        Entity_Org::Roster roster;
+        world.organisation(name).rosterCopy(roster);
+        for (const Entity_Fighter &man : std::as_const(roster))
+            ages.append(man.number(Entity_Fighter::Age));
+    }
+    mean = 0;
+    spread = 0;
+    if (ages.isEmpty())
+        return;
+    for (int age : ages)
+        mean += age;
+    mean /= ages.size();
+    for (int age : ages)
+        spread += (age - mean) * (age - mean);
+    spread = std::sqrt(spread / ages.size());
+}
 
 qint64 WorldReport::peakMemoryKb()
 {

@@ -4,12 +4,14 @@
 
 #include <QDate>
 #include <QList>
+#include <QString>
 #include <QStringList>
 
 class GameManager;
 
-// The figures of one game year of a run: what was fought, how it ended, the titles, the sizes of
-// the rosters and pools, and how long the days took.
+// The figures of one game year of a run: what was fought, how it ended, the titles and the
+// tournaments, the sizes and ages of the rosters and pools, how the men moved between them, and
+// how long the days took.
 class WorldReport
 {
 public:
@@ -25,6 +27,10 @@ public:
 
     // the peak memory of the process in kilobytes, 0 where the system doesn't tell
     static qint64 peakMemoryKb();
+    // the finals of the year fought so far, "<title> to <holder>" each, or "<title> to nobody"
+    static QStringList tournamentWinners(const GameManager &world, int year, int &finals);
+    // the mean and the standard deviation of the roster men's ages
+    static void rosterAges(const GameManager &world, double &mean, double &spread);
 
 private:
     struct Day {
@@ -39,4 +45,5 @@ private:
     DayFlow::Tally yearTally;
     int smallestRoster = 0;
     int largestRoster = 0;
+    int fewestFreeAgents = 0;
 };
