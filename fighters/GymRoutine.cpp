@@ -20,10 +20,19 @@ QStringList GymRoutine::trainAll(QList<Entity_GymFighter> &fighters, Entity_Gym 
 void GymRoutine::celebrateBirthdays(QList<Entity_GymFighter> &fighters, QList<Entity_Fighter> &students,
                                     const QDate &date, QStringList &news)
 {
-    for (Entity_GymFighter &fighter : fighters) {
-        if (fighter.advanceAge(date) != fighter.number(Entity_Fighter::Age))
-            news.append(fighter.birthdayLine());
-    }
+    for (Entity_GymFighter &fighter : fighters)
+        celebrateBirthday(fighter, date, news);
+    celebrateStudentBirthdays(students, date, news);
+}
+
+void GymRoutine::celebrateBirthday(Entity_GymFighter &fighter, const QDate &date, QStringList &news)
+{
+    if (fighter.advanceAge(date) != fighter.number(Entity_Fighter::Age))
+        news.append(fighter.birthdayLine());
+}
+
+void GymRoutine::celebrateStudentBirthdays(QList<Entity_Fighter> &students, const QDate &date, QStringList &news)
+{
     for (Entity_Fighter &student : students) {
         if (student.ageWithBirthday(date) == student.number(Entity_Fighter::Age))
             continue;

@@ -24,6 +24,9 @@ public:
     // nor declines by age. A student grows a year's worth. The news gets a line for each.
     static void celebrateBirthdays(QList<Entity_GymFighter> &fighters, QList<Entity_Fighter> &students,
                                    const QDate &date, QStringList &news);
+    // the same for one fighter, and for the students alone
+    static void celebrateBirthday(Entity_GymFighter &fighter, const QDate &date, QStringList &news);
+    static void celebrateStudentBirthdays(QList<Entity_Fighter> &students, const QDate &date, QStringList &news);
     // the second of the month: each fighter's log keeps its last line
     static void trimTrainingLogs(QList<Entity_GymFighter> &fighters);
 };

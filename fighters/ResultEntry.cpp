@@ -6,20 +6,20 @@ namespace {
 
 const QString fieldBreak = QStringLiteral(" - ");
 
-ResultEntry::Outcome outcomeWord(const QString &entry)
-{
-    const QString word = entry.section(':', 0, 0);
-    if (word == QLatin1String("Win"))
-        return ResultEntry::Outcome::Win;
-    if (word == QLatin1String("Loss"))
-        return ResultEntry::Outcome::Loss;
-    return ResultEntry::Outcome::Draw;
-}
-
 } // namespace
 
+ResultEntry::Outcome ResultEntry::outcomeOf(const QString &entry)
+{
+    const QStringView word = QStringView(entry).left(entry.indexOf(':'));
+    if (word == QLatin1String("Win"))
+        return Outcome::Win;
+    if (word == QLatin1String("Loss"))
+        return Outcome::Loss;
+    return Outcome::Draw;
+}
+
 ResultEntry::ResultEntry(const QString &entry)
-    : result(outcomeWord(entry))
+    : result(outcomeOf(entry))
 {
     const qsizetype bar = entry.indexOf('|');
     if (bar >= 0)

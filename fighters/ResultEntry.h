@@ -12,6 +12,8 @@ public:
     enum class Outcome { Draw, Win, Loss };
 
     explicit ResultEntry(const QString &entry);
+    // the outcome alone, read without the rest of the entry: for rules that weigh many entries
+    static Outcome outcomeOf(const QString &entry);
 
     Outcome outcome() const { return result; }
     bool isWin() const { return result == Outcome::Win; }

@@ -127,8 +127,14 @@ QString DayFlow::advanceTournamentWinner(int winnerId, const QString &orgName)
 void DayFlow::fighterNews()
 {
     QStringList news;
-    // the world's birthdays, retirements and new talent (ageWorld) join here, before the gym's
-    world.ageUserFighters(news);
+    const WorldRosters::Ageing moves = world.ageWorld(news, [this] {
+        QString name;
+        world.generateFighter(names, name, false);
+        return name;
+    });
+    dayTally.retirements += moves.retirements + world.ageUserFighters(news);
+    dayTally.newProfessionals += moves.newProfessionals;
+    dayTally.newTalent += moves.newTalent;
     printLines("Fighter News: ", news);
 }
 

@@ -205,6 +205,13 @@ void Entity_Org::recordMatch(const QDate &today, int id, const QString &entry, c
     it.value().addResult(today, line, matchType);
 }
 
+void Entity_Org::developFighter(int id)
+{
+    const auto it = findInRoster(id);
+    if (it != roster.end())
+        it.value().developOneYear();
+}
+
 void Entity_Org::refreshReputations()
 {
     for (Entity_Fighter &fighter : roster)
@@ -255,8 +262,8 @@ int formOf(const Entity_Fighter::History &history)
     int counted = 0;
     for (auto it = history.cend(); it != history.cbegin() && counted < FormResults; ++counted) {
         --it;
-        const ResultEntry entry(*it);
-        form += entry.isWin() ? 1 : entry.isLoss() ? -1 : 0;
+        const ResultEntry::Outcome outcome = ResultEntry::outcomeOf(*it);
+        form += outcome == ResultEntry::Outcome::Win ? 1 : outcome == ResultEntry::Outcome::Loss ? -1 : 0;
     }
     return form;
 }

@@ -49,6 +49,9 @@ public:
     // copies built entry after entry, so that equal ranking scores come out turned around
     void rosterCopy(Roster &copy) const;
     void titlesCopy(Titles &copy) const;
+    // the roster as it stands, shared until one side changes: a walk that must not see its own
+    // changes reads this, at no cost
+    Roster rosterSnapshot() const { return roster; }
     int rosterSize() const { return int(roster.size()); }
     bool holdsFighter(int id) const;
     // a copy; a default record for an id that the roster doesn't hold
@@ -80,6 +83,8 @@ public:
     // the career entry of a roster fighter, dated today
     void recordMatch(const QDate &today, int id, const QString &entry, const QString &matchType);
     void refreshReputations();
+    // his birthday's year of growth or decline, on the roster's own record
+    void developFighter(int id);
 
     // --- Contracts -----------------------------------------------------------------------------
     // Below this many men an organisation signs anybody; above the full roster, nobody.

@@ -3,6 +3,7 @@
 #include "fighters/GameLists.h"
 #include "fighters/GymRoutine.h"
 #include "fighters/ResultEntry.h"
+#include "world/RetirementTable.h"
 #include "world/WorldState.h"
 
 namespace {
@@ -273,10 +274,32 @@ void GymPeople::trimTrainingLogs()
     GymRoutine::trimTrainingLogs(world.fighters);
 }
 
-void GymPeople::ageUserFighters(QStringList &news)
+int GymPeople::ageUserFighters(QStringList &news)
 {
-    // the retirement of old gym fighters joins here with the ageing of the world
-    GymRoutine::celebrateBirthdays(world.fighters, world.students, world.currentDate, news);
+    int retired = 0;
+    for (int i = 0; i < world.fighters.size();) {
+        Entity_GymFighter &man = world.fighters[i];
+        GymRoutine::celebrateBirthday(man, world.currentDate, news);
+        // a man with no roll cannot retire; one whose organisation holds a show today stays,
+        // without a word
+        if (RetirementTable::retires(RetirementTable::GymFighter, man.number(Entity_Fighter::Age)) &&
+            releasedForRetirement(man)) {
+            news << man.fullName() + " has retired.";
+            removeGymFighter(i);
+            ++retired;
+            continue;
+        }
+        ++i;
+    }
+    GymRoutine::celebrateStudentBirthdays(world.students, world.currentDate, news);
+    return retired;
+}
+
+bool GymPeople::releasedForRetirement(const Entity_GymFighter &man)
+{
+    Entity_Org *organisation = world.organisationNamed(man.text(Entity_Fighter::Organisation));
+    return !organisation ||
+           organisation->retireGymFighter(man.fullName(), man.getId(), world.currentDate.year() - 1, world.currentDate);
 }
 
 // --- Men who leave the gym -------------------------------------------------------------------------
@@ -293,10 +316,8 @@ bool GymPeople::retireFighter(int index)
         return true;
     const Entity_GymFighter &man = world.fighters[index];
     // his organisation takes him off its next card, unless it holds a show today
-    if (Entity_Org *org = world.organisationNamed(man.text(Entity_Fighter::Organisation))) {
-        if (!org->retireGymFighter(man.fullName(), man.getId(), world.currentDate.year() - 1, world.currentDate))
-            return false;
-    }
+    if (!releasedForRetirement(man))
+        return false;
     // a world champion who retires ends the manager's reign on that belt
     for (const QString &title : man.titleList()) {
         if (title.contains("World Championship") && !title.contains("until"))

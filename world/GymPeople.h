@@ -60,8 +60,10 @@ public:
     void setTrainingPlan(int fighterId, int plan);
     // the second of the month: every fighter's log keeps its last line
     void trimTrainingLogs();
-    // the birthdays of the gym's fighters and students tonight, with a news line for each
-    void ageUserFighters(QStringList &news);
+    // The birthdays of the gym's fighters and students tonight, with a news line for each; an old
+    // fighter may retire by age, unless his organisation holds a show today. Students never do.
+    // The fighters retired are counted.
+    int ageUserFighters(QStringList &news);
 
     // The gym fighter at that position as a plain fighter, in the form of an export file: what
     // only the gym's own men have stays behind. Without him nothing is written.
@@ -75,6 +77,9 @@ private:
     bool isStudentIndex(int index) const;
     // he leaves the gym: his record comes off the manager's running totals, his booking goes
     void removeGymFighter(qsizetype index);
+    // his organisation lets him go, unless it holds a show today; a free agent, or a contract that
+    // names no organisation, has nothing to ask
+    bool releasedForRetirement(const Entity_GymFighter &man);
 
     WorldState &world;
 };

@@ -10,8 +10,7 @@
 struct WorldState;
 
 // The date and the nights of every organisation's calendar: what is fought today, the results of
-// a night, the booking of the cards, the tournaments and the move to a new year. The fantasy
-// match joins this room.
+// a night, the booking of the cards, the tournaments and the move to a new year.
 class WorldCalendar
 {
 public:

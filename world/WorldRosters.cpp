@@ -1,10 +1,31 @@
 #include "world/WorldRosters.h"
 
+#include "fighters/Random.h"
 #include "fighters/ReputationScale.h"
 #include "world/PrestigeTable.h"
+#include "world/RetirementTable.h"
 #include "world/WorldState.h"
 
 namespace {
+
+// an organisation lets at most this many men go in one night
+constexpr int RetirementsANight = 4;
+// below this many free agents, new talent comes ...
+constexpr int FewestFreeAgents = 20;
+// ... once the default amateurs have had their time
+constexpr int LastYearWithoutTalent = 2020;
+constexpr int ProfessionalAge = 18;
+// a new professional stands this far behind the last free agent, and each further one of the
+// night as far behind him
+constexpr int NewProfessionalStep = 100;
+
+// his birthday's line, with the age that he turns tonight
+QString birthdayLine(const Entity_Fighter &man, int age)
+{
+    Entity_Fighter older = man;
+    older.setNumber(Entity_Fighter::Age, age);
+    return older.birthdayLine();
+}
 
 // takes the man of that id out from among those of that key
 void takeOut(QMultiMap<int, Entity_Fighter> &pool, int key, int id)
@@ -160,4 +181,90 @@ int WorldRosters::signFreeAgents(QStringList &news)
         }
     }
     return signings;
+}
+
+// --- The ageing of the world ---------------------------------------------------------------------------
+
+WorldRosters::Ageing WorldRosters::ageWorld(QStringList &news, const std::function<QString()> &makeNewTalent)
+{
+    Ageing moves;
+    const QDate today = world.currentDate;
+    const int lastYear = today.year() - 1;
+
+    for (Entity_Org &organisation : world.organisations) {
+        const Entity_Org::Roster roster = organisation.rosterSnapshot();
+        int retired = 0;
+        for (const Entity_Fighter &man : std::as_const(roster)) {
+            const int age = man.ageWithBirthday(today);
+            const bool birthday = age != man.number(Entity_Fighter::Age);
+            if (birthday)
+                news << birthdayLine(man, age);
+            // the one clock seed of each roster fighter
+            Random::seedFromClock();
+            if (RetirementTable::retires(RetirementTable::RosterFighter, age)) {
+                if (organisation.retireRosterFighter(man.getId(), lastYear, today)) {
+                    news << man.fullName() + " has retired from " + organisation.name();
+                    ++moves.retirements;
+                    // the rest of the roster neither ages nor develops tonight
+                    if (++retired == RetirementsANight)
+                        break;
+                    continue;
+                }
+                // a man kept for a show of today tries again tomorrow; his year comes all the same,
+                // so that his age never falls behind
+            }
+            if (birthday)
+                organisation.developFighter(man.getId());
+        }
+    }
+
+    // the free agents draw on without a seed of their own
+    int lastKey = 0;
+    for (auto it = world.freeAgents.begin(); it != world.freeAgents.end();) {
+        lastKey = it.key();
+        Entity_Fighter &man = it.value();
+        const int age = man.ageWithBirthday(today);
+        const bool birthday = age != man.number(Entity_Fighter::Age);
+        if (birthday)
+            news << birthdayLine(man, age);
+        if (RetirementTable::retires(RetirementTable::FreeAgent, age)) {
+            news << man.fullName() + " has retired.";
+            ++moves.retirements;
+            it = world.freeAgents.erase(it);
+            continue;
+        }
+        if (birthday)
+            man.developOneYear();
+        ++it;
+    }
+
+    if (world.freeAgents.size() < FewestFreeAgents && today.year() > LastYearWithoutTalent) {
+        const QString name = makeNewTalent();
+        if (!name.isEmpty()) {
+            news << name + " has come of age and turned professional.";
+            ++moves.newTalent;
+        }
+    }
+
+    // an amateur of 18 starts at the end of the free agents, with his own ranking score kept
+    int key = lastKey;
+    for (auto it = world.amateurs.begin(); it != world.amateurs.end();) {
+        Entity_Fighter &man = it.value();
+        const int age = man.ageWithBirthday(today);
+        const bool birthday = age != man.number(Entity_Fighter::Age);
+        if (age == ProfessionalAge) {
+            man.developOneYear();
+            man.setContract("Free Agent", 0);
+            key += NewProfessionalStep;
+            world.freeAgents.insert(key, man);
+            news << man.fullName() + " has come of age and turned professional.";
+            ++moves.newProfessionals;
+            it = world.amateurs.erase(it);
+            continue;
+        }
+        if (birthday)
+            man.developOneYear();
+        ++it;
+    }
+    return moves;
 }

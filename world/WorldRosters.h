@@ -7,11 +7,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 struct WorldState;
 
 // The organisations and the men of the world: rosters, rankings, careers, titles and
-// reputations, the pools of free agents and amateurs, and the signing of free agents. The world's
-// ageing joins this room.
+// reputations, the pools of free agents and amateurs, the signing of free agents, and the ageing
+// of the world: birthdays, retirements, amateurs who turn professional and new talent.
 class WorldRosters
 {
 public:
@@ -44,6 +46,17 @@ public:
     // short takes anybody whom its test takes, a full one only the famous; the men signed are
     // counted.
     int signFreeAgents(QStringList &news);
+
+    struct Ageing {
+        int retirements = 0;
+        int newProfessionals = 0;
+        int newTalent = 0;
+    };
+    // Every man of the world may have his birthday tonight and grow or decline by it, and an old
+    // man may retire: at most four of an organisation in a night. Amateurs of 18 join the end of
+    // the free agents. From 2021 on, a free agent list short of 20 men gets one new man a night,
+    // whom `makeNewTalent` makes and names (an empty name when it could make nobody).
+    Ageing ageWorld(QStringList &news, const std::function<QString()> &makeNewTalent);
 
 private:
     WorldState &world;

@@ -12,6 +12,10 @@
 
 namespace {
 
+// the sizes below which the report counts a roster and the free agents as short
+constexpr int ShortRoster = 30;
+constexpr int ShortPool = 20;
+
 QString share(int part, int whole)
 {
     return QString::number(whole ? 100.0 * part / whole : 0.0, 'f', 1) + '%';
@@ -51,10 +55,15 @@ void WorldReport::addDay(const QDate &day, const DayFlow::Tally &tally, qint64 m
     yearTally.newProfessionals += tally.newProfessionals;
     yearTally.newTalent += tally.newTalent;
     fewestFreeAgents = std::min(fewestFreeAgents, world.freeAgentCount());
+    shortPoolDays += world.freeAgentCount() < ShortPool;
     for (const QString &name : world.organisationNames()) {
         const int size = world.organisation(name).rosterSize();
         smallestRoster = std::min(smallestRoster, size);
         largestRoster = std::max(largestRoster, size);
+        int &run = shortRun[name];
+        run = size < ShortRoster ? run + 1 : 0;
+        shortRosterDays += run > 0;
+        longestShortRun = std::max(longestShortRun, run);
     }
 }
 
@@ -78,7 +87,12 @@ QStringList WorldReport::finishYear(const GameManager &world)
     lines << QString("  tournaments: %1 finals, %2 winners").arg(finals).arg(winners.size());
     for (const QString &winner : winners)
         lines << "    " + winner;
-    lines << QString("  rosters: smallest %1, largest %2").arg(smallestRoster).arg(largestRoster);
+    lines << QString("  rosters: smallest %1, largest %2; below %3 on %4 nights, at most %5 in a row")
+                 .arg(smallestRoster)
+                 .arg(largestRoster)
+                 .arg(ShortRoster)
+                 .arg(shortRosterDays)
+                 .arg(longestShortRun);
     double meanAge = 0;
     double ageSpread = 0;
     rosterAges(world, meanAge, ageSpread);
@@ -92,9 +106,11 @@ QStringList WorldReport::finishYear(const GameManager &world)
                  .arg(t.retirements)
                  .arg(t.newProfessionals)
                  .arg(t.newTalent);
-    lines << QString("  at the end: %1 free agents (fewest %2), %3 amateurs")
+    lines << QString("  at the end: %1 free agents (fewest %2, below %3 on %4 nights), %5 amateurs")
                  .arg(freeAgents)
                  .arg(fewestFreeAgents)
+                 .arg(ShortPool)
+                 .arg(shortPoolDays)
                  .arg(amateurs);
     if (withTimes) {
         QList<Day> byTime = days;
@@ -112,6 +128,9 @@ QStringList WorldReport::finishYear(const GameManager &world)
     }
     days.clear();
     yearTally = DayFlow::Tally();
+    shortRosterDays = 0;
+    longestShortRun = 0;
+    shortPoolDays = 0;
     return lines;
 }
 

@@ -3,6 +3,7 @@
 #include "world/DayFlow.h"
 
 #include <QDate>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -46,4 +47,10 @@ private:
     int smallestRoster = 0;
     int largestRoster = 0;
     int fewestFreeAgents = 0;
+    int shortPoolDays = 0;
+    // the nights that ended with a roster below the short roster, and the most of them in a row
+    // for one organisation
+    int shortRosterDays = 0;
+    int longestShortRun = 0;
+    QHash<QString, int> shortRun;
 };
