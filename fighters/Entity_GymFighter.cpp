@@ -68,8 +68,8 @@ void Entity_GymFighter::unpackExtras(const QList<int> &seven, const QList<int> &
 
 bool Entity_GymFighter::operator==(const Entity_GymFighter &other) const
 {
-    return Entity_Fighter::operator==(other) && extras() == other.extras() && progress() == other.progress()
-        && trainingLog == other.trainingLog;
+    return Entity_Fighter::operator==(other) && extras() == other.extras() && progress() == other.progress() &&
+           trainingLog == other.trainingLog;
 }
 
 QDataStream &operator<<(QDataStream &out, const Entity_GymFighter &fighter)

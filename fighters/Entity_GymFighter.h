@@ -10,7 +10,7 @@ class Entity_GymFighter : public Entity_Fighter
 {
 public:
     static constexpr int SkillCount = 48;
-    static constexpr int ExtraCount = 7;              // learning speed ... fight purse
+    static constexpr int ExtraCount = 7;                 // learning speed ... fight purse
     static constexpr int ProgressCount = SkillCount + 1; // the 48 counters, then the plan
 
     // rolls learning speed, the reserve roll and marketability; everything else is empty

@@ -87,12 +87,26 @@ const Trait *findTrait(const QString &name)
 
 const QStringList &FighterTraits::drawList()
 {
-    static const QStringList list = {"Hard Hitter", "Weak Hitter", "Fast Attack", "Slow Attack",
-                                     "Fast Defense", "Slow Defense", "Natural Attacker", "Natural Defender",
-                                     "Excellent Attack Technique", "Poor Attack Technique",
-                                     "Excellent Defense Technique", "Poor Defense Technique",
-                                     "Natural Athlete", "Poor Athlete", "Tough", "Wimp",
-                                     "Fast Reflexes", "Slow Reflexes", "Ring General", "Easily Rattled"};
+    static const QStringList list = {"Hard Hitter",
+                                     "Weak Hitter",
+                                     "Fast Attack",
+                                     "Slow Attack",
+                                     "Fast Defense",
+                                     "Slow Defense",
+                                     "Natural Attacker",
+                                     "Natural Defender",
+                                     "Excellent Attack Technique",
+                                     "Poor Attack Technique",
+                                     "Excellent Defense Technique",
+                                     "Poor Defense Technique",
+                                     "Natural Athlete",
+                                     "Poor Athlete",
+                                     "Tough",
+                                     "Wimp",
+                                     "Fast Reflexes",
+                                     "Slow Reflexes",
+                                     "Ring General",
+                                     "Easily Rattled"};
     return list;
 }
 

@@ -31,8 +31,7 @@ inline bool readCount(QDataStream &in, quint32 &count)
     return in.status() == QDataStream::Ok;
 }
 
-template <typename T, typename ReadOne>
-void readList(QDataStream &in, QList<T> &list, ReadOne readOne)
+template <typename T, typename ReadOne> void readList(QDataStream &in, QList<T> &list, ReadOne readOne)
 {
     list.clear();
     quint32 count = 0;
@@ -46,23 +45,20 @@ void readList(QDataStream &in, QList<T> &list, ReadOne readOne)
     }
 }
 
-template <typename T>
-void readList(QDataStream &in, QList<T> &list)
+template <typename T> void readList(QDataStream &in, QList<T> &list)
 {
     readList(in, list, [](QDataStream &s, T &value) { s >> value; });
 }
 
 // a list that the record's unpack needs at exactly `expected` entries
-template <typename T>
-void readFixedList(QDataStream &in, QList<T> &list, int expected)
+template <typename T> void readFixedList(QDataStream &in, QList<T> &list, int expected)
 {
     readList(in, list);
     if (in.status() == QDataStream::Ok && list.size() != expected)
         markCorrupt(in);
 }
 
-template <typename T>
-void writeList(QDataStream &out, const QList<T> &list)
+template <typename T> void writeList(QDataStream &out, const QList<T> &list)
 {
     out << quint32(list.size());
     for (const T &value : list)
@@ -71,8 +67,7 @@ void writeList(QDataStream &out, const QList<T> &list)
 
 // Maps go out from the last entry to the first; reading them back in that order with a
 // multi-insert, which puts a new value before its equals, gives the original order again.
-template <typename Map>
-void writeMap(QDataStream &out, const Map &map)
+template <typename Map> void writeMap(QDataStream &out, const Map &map)
 {
     out << quint32(map.size());
     auto it = map.constEnd();
@@ -99,15 +94,13 @@ void readMultiMap(QDataStream &in, QMultiMap<K, V> &map, ReadValue readValue)
     }
 }
 
-template <typename K, typename V>
-void readMultiMap(QDataStream &in, QMultiMap<K, V> &map)
+template <typename K, typename V> void readMultiMap(QDataStream &in, QMultiMap<K, V> &map)
 {
     readMultiMap(in, map, [](QDataStream &s, V &value) { s >> value; });
 }
 
 // a map with one value per key: a later equal key replaces, as the old reader's insert did
-template <typename K, typename V>
-void readMap(QDataStream &in, QMap<K, V> &map)
+template <typename K, typename V> void readMap(QDataStream &in, QMap<K, V> &map)
 {
     QMultiMap<K, V> all;
     readMultiMap(in, all);

@@ -8,7 +8,10 @@ struct Instruction {
     int newTactic;
 };
 
-constexpr unsigned when(int t) { return 1u << t; }
+constexpr unsigned when(int t)
+{
+    return 1u << t;
+}
 
 // in the order the corner offers them
 constexpr Instruction instructionTable[] = {
@@ -75,23 +78,17 @@ const char *const bodyPartLines[4][5] = {
     {"He's got to protect his head at all costs at this point.",
      "If he doesn't start protecting his head, he'll be in serious trouble.",
      "His head is starting to take some damage. He might want to go for a knockout before thing get serious.",
-     "He needs to focus a bit on protecting his head a bit more.",
-     "He's doing a good job protecting his head."},
-    {"His body can't take much more punishment.",
-     "His body is taking a pounding. This might become a situation.",
-     "His body is starting to show some signs of trouble.",
-     "He could be defending his body a bit better.",
+     "He needs to focus a bit on protecting his head a bit more.", "He's doing a good job protecting his head."},
+    {"His body can't take much more punishment.", "His body is taking a pounding. This might become a situation.",
+     "His body is starting to show some signs of trouble.", "He could be defending his body a bit better.",
      "His body is still in good shape."},
     {"His arms are wrecked. He needs to slow things down a bit.",
      "His arms are pretty banged up. He should try avoiding attacks instead of blocking them.",
-     "His arms are starting to slow down.",
-     "His arms have taken some damage, but look fine for now.",
+     "His arms are starting to slow down.", "His arms have taken some damage, but look fine for now.",
      "His arms are looking sharp."},
-    {"He's on the verge of collapsing on those wobbly legs.",
-     "He's starting to limp a bit. His legs are in bad shape.",
+    {"He's on the verge of collapsing on those wobbly legs.", "He's starting to limp a bit. His legs are in bad shape.",
      "His legs are starting to give. He might want to move in close to avoid taking too many low kicks.",
-     "His legs are still fine, but are worth looking out for.",
-     "His legs are in good shape."},
+     "His legs are still fine, but are worth looking out for.", "His legs are in good shape."},
 };
 
 } // namespace

@@ -283,9 +283,9 @@ bool Entity_MatchFighter::applyInstruction(const QString &text, int value, bool 
         if (s % 2 == 1)
             s = -s;
     }
-    const int obedience = number(FightIQ) + number(Awareness) + number(Willpower) + 2 * number(Composure)
-                          + number(Instinct) + number(RingSense) + number(Discipline) - 400 + 5 * value
-                          + 2 * swing[0] - 2 * swing[1] + 2 * swing[2] - 2 * swing[3];
+    const int obedience = number(FightIQ) + number(Awareness) + number(Willpower) + 2 * number(Composure) +
+                          number(Instinct) + number(RingSense) + number(Discipline) - 400 + 5 * value + 2 * swing[0] -
+                          2 * swing[1] + 2 * swing[2] - 2 * swing[3];
     if (obedience < 1 && !force)
         return false;
     tactic = newTactic;

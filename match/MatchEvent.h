@@ -44,10 +44,19 @@ constexpr int ClinchAttack = 8;
 constexpr int KnockedDown = 4;
 constexpr int KnockedOut = 5;
 
-constexpr bool isStrike(int code) { return code >= EvJab && code <= EvBodyPunch; }
+constexpr bool isStrike(int code)
+{
+    return code >= EvJab && code <= EvBodyPunch;
+}
 // the strike's position in the fighter record (0 Jab ... 11 Body Punch)
-constexpr int strikeIndex(int code) { return code - EvJab; }
-constexpr int strikeCode(int index) { return EvJab + index; }
+constexpr int strikeIndex(int code)
+{
+    return code - EvJab;
+}
+constexpr int strikeCode(int index)
+{
+    return EvJab + index;
+}
 // the range where an announced attack comes, or -1 for any other event
 constexpr int rangeOfAttack(int event)
 {

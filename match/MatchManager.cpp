@@ -179,22 +179,24 @@ QString MatchManager::resultText(int &winnerId, QString &winnerEntry, int &loser
     const QString loserName = loser->fullName();
 
     if (!isStoppage()) {
-        winnerEntry += QStringLiteral("Win: ") + loserName + QStringLiteral(" - Decision - Rd. ") + round + QStringLiteral("(3:00)");
-        loserEntry += QStringLiteral("Loss: ") + winnerName + QStringLiteral(" - Decision - Rd. ") + round + QStringLiteral("(3:00)");
-        return winnerName + QStringLiteral(" defeated ") + loserName + QStringLiteral(" by Decision in 3:00 of Round ")
-               + round + QStringLiteral(".");
+        winnerEntry += QStringLiteral("Win: ") + loserName + QStringLiteral(" - Decision - Rd. ") + round +
+                       QStringLiteral("(3:00)");
+        loserEntry += QStringLiteral("Loss: ") + winnerName + QStringLiteral(" - Decision - Rd. ") + round +
+                      QStringLiteral("(3:00)");
+        return winnerName + QStringLiteral(" defeated ") + loserName +
+               QStringLiteral(" by Decision in 3:00 of Round ") + round + QStringLiteral(".");
     }
     const Method *row = methodOf(winner->getActionCode());
     const QString method = row ? QString::fromLatin1(row->text) : QString();
     const QString lineMethod = method.isEmpty() ? QString() : QStringLiteral(" by ") + method + QStringLiteral(" in ");
     const QString entryMethod = method.isEmpty() ? QString() : QStringLiteral(" - ") + method + QStringLiteral(" - ");
     const QString elapsed = clockText(RoundSeconds - roundClock);
-    winnerEntry += QStringLiteral("Win: ") + loserName + entryMethod + QStringLiteral("Rd. ") + round + QStringLiteral("(")
-                   + elapsed + QStringLiteral(")");
-    loserEntry += QStringLiteral("Loss: ") + winnerName + entryMethod + QStringLiteral("Rd. ") + round + QStringLiteral("(")
-                  + elapsed + QStringLiteral(")");
-    return winnerName + QStringLiteral(" defeated ") + loserName + lineMethod + elapsed + QStringLiteral(" of Round ") + round
-           + QStringLiteral(".");
+    winnerEntry += QStringLiteral("Win: ") + loserName + entryMethod + QStringLiteral("Rd. ") + round +
+                   QStringLiteral("(") + elapsed + QStringLiteral(")");
+    loserEntry += QStringLiteral("Loss: ") + winnerName + entryMethod + QStringLiteral("Rd. ") + round +
+                  QStringLiteral("(") + elapsed + QStringLiteral(")");
+    return winnerName + QStringLiteral(" defeated ") + loserName + lineMethod + elapsed + QStringLiteral(" of Round ") +
+           round + QStringLiteral(".");
 }
 
 bool MatchManager::isStoppage() const
@@ -302,11 +304,11 @@ void MatchManager::registerKnockdown(Entity_MatchFighter &fighter)
     if (count == 1)
         fighter.addComment(lastName(fighter) + QStringLiteral(" has gone down! Will he be able to get up?"));
     else if (count == 2)
-        fighter.addComment(QStringLiteral("That's knockdown number two! One more and ") + lastName(fighter)
-                           + QStringLiteral(" is done!"));
+        fighter.addComment(QStringLiteral("That's knockdown number two! One more and ") + lastName(fighter) +
+                           QStringLiteral(" is done!"));
     else
-        fighter.addComment(QStringLiteral("That's the third time this round that ") + fighter.fullName()
-                           + QStringLiteral(" has gone down! This match is over!"));
+        fighter.addComment(QStringLiteral("That's the third time this round that ") + fighter.fullName() +
+                           QStringLiteral(" has gone down! This match is over!"));
     // three knockdowns in one round end the match without a count
     if (count >= 3) {
         fighter.setActionCode(MatchCodes::KnockedOut);

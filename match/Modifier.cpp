@@ -4,10 +4,18 @@ void Modifier::apply(QList<int> &scores, Dice &dice, int x, int y) const
 {
     int size = 0;
     switch (amount) {
-    case X: size = x; break;
-    case XPlusU10: size = x + dice.u(10); break;
-    case Y: size = y; break;
-    case OwnD20: size = dice.d(20); break;
+    case X:
+        size = x;
+        break;
+    case XPlusU10:
+        size = x + dice.u(10);
+        break;
+    case Y:
+        size = y;
+        break;
+    case OwnD20:
+        size = dice.d(20);
+        break;
     }
     scores[option] += sign * size;
 }

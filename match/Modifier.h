@@ -8,10 +8,10 @@
 // of option `option` moves by an amount in direction `sign`.
 struct Modifier {
     enum Amount {
-        X,         // the decision's one d20
-        XPlusU10,  // the same d20 and one more u10
-        Y,         // the decision's one d35
-        OwnD20     // a d20 of its own
+        X,        // the decision's one d20
+        XPlusU10, // the same d20 and one more u10
+        Y,        // the decision's one d35
+        OwnD20    // a d20 of its own
     };
 
     unsigned when; // a bit for each tactic or band value

@@ -28,29 +28,35 @@ struct AttackTable {
 };
 
 // the strikes of each range, in the order the choice tests them
-constexpr AttackTable longRange = {"State_Atk_OutAttack", EvOutAttack, OutAttack,
-    {{EvJab, F::HandSpeed, Puncher, CommentaryList::AtkOutAttack_Jab},
-     {EvCross, F::PunchPower, Puncher, CommentaryList::AtkOutAttack_Cross},
-     {EvLowKick, F::KickSpeed, Kicker, CommentaryList::AtkOutAttack_LowKick},
-     {EvMidKick, F::Torque, Kicker, CommentaryList::AtkOutAttack_MidKick},
-     {EvHighKick, F::KickSpeed, Kicker, CommentaryList::AtkOutAttack_HighKick},
-     {EvFrontKick, F::KickSpeed, Kicker, CommentaryList::AtkOutAttack_FrontKick}}};
+constexpr AttackTable longRange = {"State_Atk_OutAttack",
+                                   EvOutAttack,
+                                   OutAttack,
+                                   {{EvJab, F::HandSpeed, Puncher, CommentaryList::AtkOutAttack_Jab},
+                                    {EvCross, F::PunchPower, Puncher, CommentaryList::AtkOutAttack_Cross},
+                                    {EvLowKick, F::KickSpeed, Kicker, CommentaryList::AtkOutAttack_LowKick},
+                                    {EvMidKick, F::Torque, Kicker, CommentaryList::AtkOutAttack_MidKick},
+                                    {EvHighKick, F::KickSpeed, Kicker, CommentaryList::AtkOutAttack_HighKick},
+                                    {EvFrontKick, F::KickSpeed, Kicker, CommentaryList::AtkOutAttack_FrontKick}}};
 
-constexpr AttackTable pocket = {"State_Atk_InAttack", EvInAttack, InAttack,
-    {{EvHook, F::HandSpeed, Puncher, CommentaryList::AtkInAttack_Hook},
-     {EvCross, F::PunchPower, Puncher, CommentaryList::AtkInAttack_Cross},
-     {EvUppercut, F::HandSpeed, Puncher, CommentaryList::AtkInAttack_Uppercut},
-     {EvLowKick, F::KickSpeed, Kicker, CommentaryList::AtkInAttack_LowKick},
-     {EvKnee, F::Torque, Kicker, CommentaryList::AtkInAttack_Knee},
-     {EvBodyPunch, F::PunchPower, NoBonus, CommentaryList::AtkInAttack_BodyPunch}}};
+constexpr AttackTable pocket = {"State_Atk_InAttack",
+                                EvInAttack,
+                                InAttack,
+                                {{EvHook, F::HandSpeed, Puncher, CommentaryList::AtkInAttack_Hook},
+                                 {EvCross, F::PunchPower, Puncher, CommentaryList::AtkInAttack_Cross},
+                                 {EvUppercut, F::HandSpeed, Puncher, CommentaryList::AtkInAttack_Uppercut},
+                                 {EvLowKick, F::KickSpeed, Kicker, CommentaryList::AtkInAttack_LowKick},
+                                 {EvKnee, F::Torque, Kicker, CommentaryList::AtkInAttack_Knee},
+                                 {EvBodyPunch, F::PunchPower, NoBonus, CommentaryList::AtkInAttack_BodyPunch}}};
 
-constexpr AttackTable clinch = {"State_Atk_ClinchAttack", EvClinchAttack, ClinchAttack,
-    {{EvHook, F::HandSpeed, Puncher, CommentaryList::AtkClinchAttack_Hook},
-     {EvUppercut, F::HandSpeed, Puncher, CommentaryList::AtkClinchAttack_Uppercut},
-     {EvKnee, F::Torque, Kicker, CommentaryList::AtkClinchAttack_Knee},
-     {EvElbow, F::ClinchControl, NoBonus, CommentaryList::AtkClinchAttack_Elbow},
-     {EvDirtyBox, F::Grappling, NoBonus, CommentaryList::AtkClinchAttack_DirtyBoxing},
-     {EvBodyPunch, F::PunchPower, Puncher, CommentaryList::AtkClinchAttack_BodyPunch}}};
+constexpr AttackTable clinch = {"State_Atk_ClinchAttack",
+                                EvClinchAttack,
+                                ClinchAttack,
+                                {{EvHook, F::HandSpeed, Puncher, CommentaryList::AtkClinchAttack_Hook},
+                                 {EvUppercut, F::HandSpeed, Puncher, CommentaryList::AtkClinchAttack_Uppercut},
+                                 {EvKnee, F::Torque, Kicker, CommentaryList::AtkClinchAttack_Knee},
+                                 {EvElbow, F::ClinchControl, NoBonus, CommentaryList::AtkClinchAttack_Elbow},
+                                 {EvDirtyBox, F::Grappling, NoBonus, CommentaryList::AtkClinchAttack_DirtyBoxing},
+                                 {EvBodyPunch, F::PunchPower, Puncher, CommentaryList::AtkClinchAttack_BodyPunch}}};
 
 const AttackTable &tableAt(int range)
 {
@@ -87,7 +93,8 @@ void State_Atk_Attack::execute(Entity_MatchFighter &fighter)
     QList<int> scores;
     for (const StrikeOption &strike : table.strikes) {
         const int index = strikeIndex(strike.code);
-        const int sum = number(F::strikeSpeed(index)) + number(F::strikeTechnique(index)) + number(F::strikePower(index));
+        const int sum =
+            number(F::strikeSpeed(index)) + number(F::strikeTechnique(index)) + number(F::strikePower(index));
         scores.append((sum + 3 * roll.d(50)) / nonZero((100 - number(strike.sharpener)) / 10 + 1));
     }
     // a man of a style likes the strikes of his style a little more

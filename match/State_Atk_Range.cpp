@@ -34,8 +34,14 @@ struct RangeDecision {
     QList<StyleRow> rows; // the last row is for every other style
 };
 
-constexpr unsigned styles(int a) { return 1u << a; }
-constexpr unsigned styles(int a, int b) { return (1u << a) | (1u << b); }
+constexpr unsigned styles(int a)
+{
+    return 1u << a;
+}
+constexpr unsigned styles(int a, int b)
+{
+    return (1u << a) | (1u << b);
+}
 constexpr unsigned OtherStyles = ~0u;
 
 constexpr ScoreShape D = ScoreShape::Drive;
@@ -54,13 +60,17 @@ const RangeDecision &decisionAt(int range)
         {{styles(Infighter, Clincher),
           {{D, F::Precision, F::Snap, F::Coordination, F::FootSpeed, F::Ferocity},
            {R, F::FightIQ, F::Awareness, F::RingSense, F::Ferocity, F::Willpower}},
-          {{M::values(2), 0, -1, M::X}, {M::values(10, 11), 0, 1, M::XPlusU10}, {M::values(8), 0, 1, M::X},
+          {{M::values(2), 0, -1, M::X},
+           {M::values(10, 11), 0, 1, M::XPlusU10},
+           {M::values(8), 0, 1, M::X},
            {M::values(9), 1, 1, M::X}},
           {{M::above(3), 0, -1, M::Y}}},
          {styles(Outfighter),
           {{R, F::FightIQ, F::Awareness, F::RingSense, F::Concentration, F::EvasionSpeed},
            {D, F::Precision, F::Snap, F::Coordination, F::EvasionSpeed, F::MoveSpeed}},
-          {{M::values(7, 8), 1, 1, M::X}, {M::values(9), 1, 1, M::XPlusU10}, {M::values(5), 1, -1, M::X},
+          {{M::values(7, 8), 1, 1, M::X},
+           {M::values(9), 1, 1, M::XPlusU10},
+           {M::values(5), 1, -1, M::X},
            {M::values(10, 11), 0, 1, M::XPlusU10}},
           {{M::values(0), 1, 1, M::Y}}},
          {OtherStyles,
@@ -80,22 +90,32 @@ const RangeDecision &decisionAt(int range)
           {{R, F::FightIQ, F::Awareness, F::RingSense, F::Ferocity, F::RingSense},
            {R, F::FightIQ, F::Awareness, F::RingSense, F::Grappling, F::Strength},
            {D, F::Precision, F::Willpower, F::Snap, F::Discipline, F::Ferocity}},
-          {{M::values(7, 8), 2, 1, M::X}, {M::values(10), 2, 1, M::XPlusU10}, {M::values(2, 6), 0, 1, M::X},
-           {M::values(9), 0, 1, M::XPlusU10}, {M::values(5), 1, 1, M::X}, {M::values(11), 1, 1, M::XPlusU10}},
+          {{M::values(7, 8), 2, 1, M::X},
+           {M::values(10), 2, 1, M::XPlusU10},
+           {M::values(2, 6), 0, 1, M::X},
+           {M::values(9), 0, 1, M::XPlusU10},
+           {M::values(5), 1, 1, M::X},
+           {M::values(11), 1, 1, M::XPlusU10}},
           {{M::values(0), 2, 1, M::Y}, {M::above(3), 2, -1, M::Y}}},
          {styles(Outfighter),
           {{D, F::Precision, F::Snap, F::Coordination, F::FootSpeed, F::FightIQ},
            {R, F::FightIQ, F::Awareness, F::RingSense, F::Durability, F::Concentration},
            {R, F::FightIQ, F::Awareness, F::RingSense, F::Composure, F::Concentration}},
-          {{M::values(8), 2, 1, M::X}, {M::values(10), 2, 1, M::XPlusU10}, {M::values(9), 0, 1, M::XPlusU10},
-           {M::values(5, 6), 1, 1, M::X}, {M::values(11), 1, 1, M::XPlusU10}},
+          {{M::values(8), 2, 1, M::X},
+           {M::values(10), 2, 1, M::XPlusU10},
+           {M::values(9), 0, 1, M::XPlusU10},
+           {M::values(5, 6), 1, 1, M::X},
+           {M::values(11), 1, 1, M::XPlusU10}},
           {{M::values(5), 0, -1, M::Y}}},
          {styles(Clincher),
           {{R, F::FightIQ, F::Awareness, F::RingSense, F::Reflexes, F::Strength},
            {D, F::Precision, F::MoveSpeed, F::FootSpeed, F::Grappling, F::Durability},
            {R, F::FightIQ, F::Awareness, F::RingSense, F::Composure, F::Strength}},
-          {{M::values(7), 1, 1, M::X}, {M::values(11), 1, 1, M::XPlusU10}, {M::values(8, 5), 2, 1, M::X},
-           {M::values(10), 2, 1, M::XPlusU10}, {M::values(9), 0, 1, M::XPlusU10}},
+          {{M::values(7), 1, 1, M::X},
+           {M::values(11), 1, 1, M::XPlusU10},
+           {M::values(8, 5), 2, 1, M::X},
+           {M::values(10), 2, 1, M::XPlusU10},
+           {M::values(9), 0, 1, M::XPlusU10}},
           {{M::values(5), 1, -1, M::Y}, {M::values(4), 0, 1, M::Y}}},
          {OtherStyles,
           {{Rs, F::MoveSpeed, F::EvasionSpeed, F::RingSense, F::Reflexes, F::Strength},
@@ -112,14 +132,19 @@ const RangeDecision &decisionAt(int range)
         {{styles(Outfighter, Infighter),
           {{D, F::Precision, F::Snap, F::Coordination, F::FootSpeed, F::MoveSpeed},
            {R, F::FightIQ, F::Awareness, F::RingSense, F::Composure, F::Willpower}},
-          {{M::values(7, 5), 0, 1, M::X}, {M::values(9, 10), 0, 1, M::XPlusU10}, {M::values(8, 6), 1, 1, M::X},
+          {{M::values(7, 5), 0, 1, M::X},
+           {M::values(9, 10), 0, 1, M::XPlusU10},
+           {M::values(8, 6), 1, 1, M::X},
            {M::values(11), 1, 1, M::XPlusU10}},
           {{M::values(5), 0, -1, M::Y}}},
          {styles(Clincher),
           {{R, F::FightIQ, F::Awareness, F::RingSense, F::Grappling, F::Strength},
            {D, F::Precision, F::Snap, F::Torque, F::FootSpeed, F::Willpower}},
-          {{M::values(7, 8), 1, 1, M::X}, {M::values(11), 1, 1, M::XPlusU10}, {M::values(2), 1, -1, M::X},
-           {M::values(9, 10), 0, 1, M::XPlusU10}, {M::values(5), 0, 1, M::X}},
+          {{M::values(7, 8), 1, 1, M::X},
+           {M::values(11), 1, 1, M::XPlusU10},
+           {M::values(2), 1, -1, M::X},
+           {M::values(9, 10), 0, 1, M::XPlusU10},
+           {M::values(5), 0, 1, M::X}},
           {{M::above(3), 0, 1, M::Y}}},
          {OtherStyles,
           {{D, F::Precision, F::Snap, F::Coordination, F::FootSpeed, F::MoveSpeed},

@@ -26,14 +26,14 @@ struct Contest {
 const Contest &contestOf(int movedTo)
 {
     static const Contest in = {"State_Def_DefMoveIn",
-        {EvJab, F::HandSpeed, F::Endurance, CommentaryList::DefDefMoveIn_Jab},
-        {EvFrontKick, F::KickSpeed, F::Torque, CommentaryList::DefDefMoveIn_FrontKick}};
+                               {EvJab, F::HandSpeed, F::Endurance, CommentaryList::DefDefMoveIn_Jab},
+                               {EvFrontKick, F::KickSpeed, F::Torque, CommentaryList::DefDefMoveIn_FrontKick}};
     static const Contest out = {"State_Def_DefMoveOut",
-        {EvJab, F::HandSpeed, F::Endurance, CommentaryList::DefDefMoveOut_Jab},
-        {EvFrontKick, F::KickSpeed, F::Torque, CommentaryList::DefDefMoveOut_FrontKick}};
+                                {EvJab, F::HandSpeed, F::Endurance, CommentaryList::DefDefMoveOut_Jab},
+                                {EvFrontKick, F::KickSpeed, F::Torque, CommentaryList::DefDefMoveOut_FrontKick}};
     static const Contest clinch = {"State_Def_DefMoveClinch",
-        {EvCross, F::HandSpeed, F::Endurance, CommentaryList::DefDefMoveClinch_Cross},
-        {EvKnee, F::KickSpeed, F::Torque, CommentaryList::DefDefMoveClinch_Knee}};
+                                   {EvCross, F::HandSpeed, F::Endurance, CommentaryList::DefDefMoveClinch_Cross},
+                                   {EvKnee, F::KickSpeed, F::Torque, CommentaryList::DefDefMoveClinch_Knee}};
     return movedTo == Pocket ? in : movedTo == Clinch ? clinch : out;
 }
 

@@ -36,40 +36,35 @@ struct DefenceRow {
 
 constexpr DefenceRow defenceRows[] = {
     {"State_Def_BlockHighPunch", F::Reflexes, F::PunchGuardSpeed, F::Balance, F::HeadMoveSpeed, 40, 2,
-     F::PunchGuardSpeed, 8, HighBlocks, Blocked, State_Gen_BlkDmg::HeadPunch,
-     CommentaryList::DefBlockHighPunch_Fails, CommentaryList::DefBlockHighPunch_Works},
+     F::PunchGuardSpeed, 8, HighBlocks, Blocked, State_Gen_BlkDmg::HeadPunch, CommentaryList::DefBlockHighPunch_Fails,
+     CommentaryList::DefBlockHighPunch_Works},
     {"State_Def_BlockHighKick", F::Reflexes, F::KickGuardSpeed, F::Resilience, F::KickGuardSpeed, 40, 2,
-     F::KickGuardSpeed, 8, HighBlocks, Blocked, State_Gen_BlkDmg::HeadKick,
-     CommentaryList::DefBlockHighKick_Fails, CommentaryList::DefBlockHighKick_Works},
-    {"State_Def_BlockMid", F::Reflexes, F::BodyGuardSpeed, F::Resilience, F::BodyGuardSpeed, 40, 2,
-     F::BodyGuardSpeed, 10, BodyAndLegBlocks, Blocked, State_Gen_BlkDmg::Body,
-     CommentaryList::DefBlockMid_Fails, CommentaryList::DefBlockMid_Works},
-    {"State_Def_BlockLow", F::Reflexes, F::LegGuardSpeed, F::Resilience, F::LegGuardSpeed, 40, 2,
-     F::LegGuardSpeed, 10, BodyAndLegBlocks, Blocked, State_Gen_BlkDmg::Leg,
-     CommentaryList::DefBlockLow_Fails, CommentaryList::DefBlockLow_Works},
-    {"State_Def_BlockClinch", F::Strength, F::ClinchControl, F::Grappling, F::ClinchEscape, 40, 2,
-     F::Torque, 10, HighBlocks, Blocked, State_Gen_BlkDmg::Clinch,
-     CommentaryList::DefBlockClinch_Fails, CommentaryList::DefBlockClinch_Works},
-    {"State_Def_DodgeHigh", F::Reflexes, F::HeadMoveSpeed, F::EvasionSpeed, None, 40, 1,
-     F::Snap, 8, HighDodges, Dodged, 0,
-     CommentaryList::DefDodgeHigh_Fails, CommentaryList::DefDodgeHigh_Works},
-    {"State_Def_DodgeMid", F::Reflexes, F::BodyMoveSpeed, F::EvasionSpeed, None, 40, 1,
-     F::Snap, 8, OtherDodges, Dodged, 0,
-     CommentaryList::DefDodgeMid_Fails, CommentaryList::DefDodgeMid_Works},
-    {"State_Def_DodgeLow", F::Reflexes, F::MoveSpeed, F::EvasionSpeed, None, 40, 1,
-     F::Snap, 8, OtherDodges, Dodged, 0,
+     F::KickGuardSpeed, 8, HighBlocks, Blocked, State_Gen_BlkDmg::HeadKick, CommentaryList::DefBlockHighKick_Fails,
+     CommentaryList::DefBlockHighKick_Works},
+    {"State_Def_BlockMid", F::Reflexes, F::BodyGuardSpeed, F::Resilience, F::BodyGuardSpeed, 40, 2, F::BodyGuardSpeed,
+     10, BodyAndLegBlocks, Blocked, State_Gen_BlkDmg::Body, CommentaryList::DefBlockMid_Fails,
+     CommentaryList::DefBlockMid_Works},
+    {"State_Def_BlockLow", F::Reflexes, F::LegGuardSpeed, F::Resilience, F::LegGuardSpeed, 40, 2, F::LegGuardSpeed, 10,
+     BodyAndLegBlocks, Blocked, State_Gen_BlkDmg::Leg, CommentaryList::DefBlockLow_Fails,
+     CommentaryList::DefBlockLow_Works},
+    {"State_Def_BlockClinch", F::Strength, F::ClinchControl, F::Grappling, F::ClinchEscape, 40, 2, F::Torque, 10,
+     HighBlocks, Blocked, State_Gen_BlkDmg::Clinch, CommentaryList::DefBlockClinch_Fails,
+     CommentaryList::DefBlockClinch_Works},
+    {"State_Def_DodgeHigh", F::Reflexes, F::HeadMoveSpeed, F::EvasionSpeed, None, 40, 1, F::Snap, 8, HighDodges, Dodged,
+     0, CommentaryList::DefDodgeHigh_Fails, CommentaryList::DefDodgeHigh_Works},
+    {"State_Def_DodgeMid", F::Reflexes, F::BodyMoveSpeed, F::EvasionSpeed, None, 40, 1, F::Snap, 8, OtherDodges, Dodged,
+     0, CommentaryList::DefDodgeMid_Fails, CommentaryList::DefDodgeMid_Works},
+    {"State_Def_DodgeLow", F::Reflexes, F::MoveSpeed, F::EvasionSpeed, None, 40, 1, F::Snap, 8, OtherDodges, Dodged, 0,
      CommentaryList::DefDodgeLow_Fails, CommentaryList::DefDodgeLow_Works},
-    {"State_Def_DodgeClinch", F::Reflexes, F::ClinchEscape, F::ClinchGuardSpeed, None, 40, 1,
-     F::Grappling, 8, OtherDodges, Dodged, 0,
-     CommentaryList::DefDodgeClinch_Fails, CommentaryList::DefDodgeClinch_Works},
+    {"State_Def_DodgeClinch", F::Reflexes, F::ClinchEscape, F::ClinchGuardSpeed, None, 40, 1, F::Grappling, 8,
+     OtherDodges, Dodged, 0, CommentaryList::DefDodgeClinch_Fails, CommentaryList::DefDodgeClinch_Works},
     {"State_Def_CounterHigh", F::Reflexes, F::PunchGuardSpeed, F::HeadMoveTechnique, F::HeadMoveSpeed, 20, 2,
-     F::EvasionSpeed, 8, HighCounters, Countered, 0,
-     CommentaryList::DefCounterHigh_Fails, CommentaryList::DefCounterHigh_Works},
+     F::EvasionSpeed, 8, HighCounters, Countered, 0, CommentaryList::DefCounterHigh_Fails,
+     CommentaryList::DefCounterHigh_Works},
     {"State_Def_CounterMid", F::Reflexes, F::PunchGuardSpeed, F::BodyMoveTechnique, F::BodyMoveSpeed, 20, 2,
-     F::EvasionSpeed, 8, MidCounters, Countered, 0,
-     CommentaryList::DefCounterMid_Fails, CommentaryList::DefCounterMid_Works},
+     F::EvasionSpeed, 8, MidCounters, Countered, 0, CommentaryList::DefCounterMid_Fails,
+     CommentaryList::DefCounterMid_Works},
 };
-
 
 } // namespace
 
@@ -126,8 +121,14 @@ void State_Def_Defence::execute(Entity_MatchFighter &fighter)
     fighter.addComment(line(row.works, roll.d(100), fighter));
     fighter.addDefence(row.pair, 1, 1);
     switch (row.outcome) {
-    case Blocked: fighter.changeState(new State_Gen_BlkDmg(fighter, State_Gen_BlkDmg::Guard(row.guard))); break;
-    case Dodged: fighter.changeState(new State_Gen_DodgeDmg(fighter)); break;
-    case Countered: fighter.changeState(new State_Gen_CounterAtk(fighter)); break;
+    case Blocked:
+        fighter.changeState(new State_Gen_BlkDmg(fighter, State_Gen_BlkDmg::Guard(row.guard)));
+        break;
+    case Dodged:
+        fighter.changeState(new State_Gen_DodgeDmg(fighter));
+        break;
+    case Countered:
+        fighter.changeState(new State_Gen_CounterAtk(fighter));
+        break;
     }
 }

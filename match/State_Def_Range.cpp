@@ -26,10 +26,10 @@ struct StyleRow {
 
 struct RangeAnswer {
     const char *name;
-    int homeStyle;      // a man of this style contests with his drive: he won't leave his range
-    int attackEvent;    // the attack he gets ready for here
+    int homeStyle;   // a man of this style contests with his drive: he won't leave his range
+    int attackEvent; // the attack he gets ready for here
     CommentaryList line;
-    StyleRow boxers;    // Outfighter, Infighter and Clincher
+    StyleRow boxers; // Outfighter, Infighter and Clincher
     StyleRow others;
 };
 
@@ -40,7 +40,10 @@ constexpr ScoreShape Dd = ScoreShape::DriveDamped;
 const RangeAnswer &answerAt(int range)
 {
     static const RangeAnswer longRange = {
-        "State_Def_Out", Outfighter, EvOutAttack, CommentaryList::DefOut,
+        "State_Def_Out",
+        Outfighter,
+        EvOutAttack,
+        CommentaryList::DefOut,
         {{D, F::FightIQ, F::Awareness, F::Instinct, F::Discipline, F::Concentration},
          {R, F::FightIQ, F::Composure, F::RingSense, F::Ferocity, F::Willpower},
          {{M::values(2), Follow, -1, M::OwnD20}, {M::values(8), Follow, 1, M::OwnD20}},
@@ -49,20 +52,22 @@ const RangeAnswer &answerAt(int range)
          {Dd, F::MoveSpeed, F::Awareness, F::EvasionSpeed, F::Discipline, F::Concentration},
          {{M::values(2), Follow, -1, M::OwnD20}, {M::values(8), Follow, 1, M::OwnD20}},
          {}}};
-    static const RangeAnswer pocket = {
-        "State_Def_In", Infighter, EvInAttack, CommentaryList::DefIn,
-        {{D, F::FightIQ, F::Awareness, F::RingSense, F::Discipline, F::Concentration},
-         {R, F::FightIQ, F::Composure, F::Instinct, F::Ferocity, F::Willpower},
-         {{M::values(2), Follow, -1, M::OwnD20}},
-         {{M::above(3), Follow, -1, M::OwnD20}}},
-        {{D, F::MoveSpeed, F::Composure, F::RingSense, F::Discipline, F::Concentration},
-         {D, F::Awareness, F::Durability, F::Instinct, F::Ferocity, F::Willpower},
-         {{M::values(2), Contest, -1, M::OwnD20}},
-         {}}};
+    static const RangeAnswer pocket = {"State_Def_In",
+                                       Infighter,
+                                       EvInAttack,
+                                       CommentaryList::DefIn,
+                                       {{D, F::FightIQ, F::Awareness, F::RingSense, F::Discipline, F::Concentration},
+                                        {R, F::FightIQ, F::Composure, F::Instinct, F::Ferocity, F::Willpower},
+                                        {{M::values(2), Follow, -1, M::OwnD20}},
+                                        {{M::above(3), Follow, -1, M::OwnD20}}},
+                                       {{D, F::MoveSpeed, F::Composure, F::RingSense, F::Discipline, F::Concentration},
+                                        {D, F::Awareness, F::Durability, F::Instinct, F::Ferocity, F::Willpower},
+                                        {{M::values(2), Contest, -1, M::OwnD20}},
+                                        {}}};
     static const RangeAnswer clinch = {
-        "State_Def_Clinch", Clincher, EvClinchAttack, CommentaryList::DefClinch,
-        pocket.boxers,
-        {pocket.others.follow, pocket.others.contest, {{M::values(2), Follow, -1, M::OwnD20}}, {}}};
+        "State_Def_Clinch", Clincher,
+        EvClinchAttack,     CommentaryList::DefClinch,
+        pocket.boxers,      {pocket.others.follow, pocket.others.contest, {{M::values(2), Follow, -1, M::OwnD20}}, {}}};
     return range == Pocket ? pocket : range == Clinch ? clinch : longRange;
 }
 

@@ -17,7 +17,6 @@ enum Location { Head, Body, Legs };
 // where each strike lands, Jab to Body Punch
 constexpr Location locationByStrike[] = {Head, Head, Head, Head, Legs, Body, Head, Body, Body, Head, Body, Body};
 
-
 } // namespace
 
 void State_Gen_Outcome::onEvent(Entity_MatchFighter &fighter, int code)
@@ -36,9 +35,12 @@ int State_Gen_Outcome::hitWhereItLands(Entity_MatchFighter &fighter, int strikeC
     const Location location = isStrike(strikeCode) ? locationByStrike[strikeIndex(strikeCode)] : Head;
     const int belowTheHead = bodyBonus ? damage + damage / 2 : damage;
     switch (location) {
-    case Legs: return fighter.hitLegs(belowTheHead);
-    case Body: return fighter.hitBody(belowTheHead);
-    case Head: break;
+    case Legs:
+        return fighter.hitLegs(belowTheHead);
+    case Body:
+        return fighter.hitBody(belowTheHead);
+    case Head:
+        break;
     }
     return fighter.hitHead(damage);
 }

@@ -28,7 +28,7 @@ struct ReturnByStyle {
 };
 
 constexpr ReturnByStyle returnTable[] = {
-    {Outfighter, knee, cross}, {Infighter, knee, cross}, {Clincher, knee, cross}, {Kicker, highKick, highKick},
+    {Outfighter, knee, cross}, {Infighter, knee, cross},  {Clincher, knee, cross},   {Kicker, highKick, highKick},
     {Tactician, jab, jab},     {Puncher, uppercut, hook}, {Brawler, uppercut, hook},
 };
 

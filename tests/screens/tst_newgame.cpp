@@ -17,10 +17,14 @@ using namespace ScreenTestKit;
 
 namespace {
 
-const QList<QStringList> nationLists{{"Canada", "United States"}, {"Argentina", "Brazil", "Mexico"},
-                                     {"England", "France"},       {"Russia"},
-                                     {"Ghana"},                   {"Egypt", "Israel"},
-                                     {"Japan"},                   {"Australia", "Thailand"}};
+const QList<QStringList> nationLists{{"Canada", "United States"},
+                                     {"Argentina", "Brazil", "Mexico"},
+                                     {"England", "France"},
+                                     {"Russia"},
+                                     {"Ghana"},
+                                     {"Egypt", "Israel"},
+                                     {"Japan"},
+                                     {"Australia", "Thailand"}};
 
 // each flag, shorts and trim picture of the test is one plain colour; the trim a band on top
 void paintPicture(const QString &path, QColor ground, QColor band = Qt::transparent)
@@ -36,9 +40,9 @@ void paintPicture(const QString &path, QColor ground, QColor band = Qt::transpar
 bool shows(const QLabel *label, QPoint at, QColor colour)
 {
     const QColor shown = label->pixmap().toImage().pixelColor(at);
-    return qAbs(shown.red() - colour.red()) + qAbs(shown.green() - colour.green())
-               + qAbs(shown.blue() - colour.blue())
-        < 20;
+    return qAbs(shown.red() - colour.red()) + qAbs(shown.green() - colour.green()) +
+               qAbs(shown.blue() - colour.blue()) <
+           20;
 }
 
 QSpinBox *skillBox(int index)
