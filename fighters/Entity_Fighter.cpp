@@ -194,7 +194,7 @@ void Entity_Fighter::addResult(const QDate &date, QString &result, const QString
         const qsizetype reign = openReign(titles, "World Championship");
         if (reign >= 0)
             titles[reign] += " until " + dateText;
-        texts[Organisation] = "Free Agent";
+        texts[Organisation] = GameLists::FreeAgent;
     }
 }
 

@@ -142,7 +142,7 @@ Entity_Fighter FighterGenerator::makePerson(const Origin &origin, const QString 
     const int s = qrand() % 15;
     man.setText(F::FightingStyle,
                 GameLists::fightingStyles().at(s < 7 ? s : placeIn(GameLists::backgrounds(), background)));
-    man.setText(F::Organisation, "Free Agent");
+    man.setText(F::Organisation, GameLists::FreeAgent);
     man.setText(F::Reputation, "Unknown");
     if (recipe.forGym) {
         man.setText(F::ShortsColour, recipe.gymShorts);

@@ -24,4 +24,6 @@ public:
 
     // the text of an empty record
     static constexpr const char *NoRecord = "N/A";
+    // a man's organisation when he has no contract
+    static constexpr const char *FreeAgent = "Free Agent";
 };

@@ -3,6 +3,7 @@
 #include "fighters/StreamForm.h"
 #include "persistence/DataFile.h"
 #include "persistence/DefaultFiles.h"
+#include "world/GameManager.h"
 #include "world/OrgTable.h"
 
 Entity_Org DefaultWorld::readOrganisation(const QString &path, const QString &name)
@@ -44,4 +45,18 @@ WorldState DefaultWorld::read()
     for (int n = 1; n <= DefaultFiles::AmateurLists; ++n)
         addFighters(world.amateurs, readFighterList(DefaultFiles::path(DefaultFiles::amateurFile(n))));
     return world;
+}
+
+void DefaultWorld::startPlainGame()
+{
+    GameManager::NewGame choices;
+    choices.firstName = "Ken";
+    choices.lastName = "Saito";
+    choices.region = "East Asia";
+    choices.nation = "Japan";
+    choices.gymName = "Tiger Den";
+    choices.gymStyle = "Muay Thai";
+    choices.primaryColour = "Gold";
+    choices.secondaryColour = "Black";
+    GameManager::instance().startNewGame(choices, read());
 }

@@ -15,6 +15,9 @@ public:
     using FighterList = QMultiMap<int, Entity_Fighter>; // ranking score to fighter
 
     static WorldState read();
+    // A new game on the default world for the tools and tests that choose nothing: a manager
+    // from East Asia with every skill at its lowest, and his gym.
+    static void startPlainGame();
 
     // One organisation's file. A file that can't be read gives an organisation with the table's
     // name and nothing else, so the world keeps its eighteen places.

@@ -5,6 +5,7 @@
 #include "fighters/NationTable.h"
 #include "fighters/StreamForm.h"
 #include "persistence/DataFile.h"
+#include "persistence/NamedFiles.h"
 #include "world/Entity_Event.h"
 #include "world/GameManager.h"
 
@@ -17,8 +18,18 @@
 
 namespace {
 
-// a file name of most file systems holds up to 255 bytes, ".dat" included
-constexpr int LongestName = 255 - 4;
+const NamedFiles &exports()
+{
+    static const NamedFiles folder(
+        QStringLiteral("./Resources/Exports/"),
+        {"A fighter with no name can't be exported.",
+         "The name \"%1\" can't be the name of an export file: it starts with \".\".",
+         "The name \"%1\" can't be the name of an export file: it holds \"/\" or \"\\\".",
+         "The name of this fighter can't be the name of an export file: it holds control characters.",
+         "The name of this fighter is too long for an export file."});
+    return folder;
+}
+
 // one man with a long career fills some kilobytes; anything far larger is no export
 constexpr qint64 LargestFile = 4 * 1024 * 1024;
 
@@ -109,58 +120,32 @@ bool isManOfThisGame(const Entity_Fighter &man, QString *reason)
 
 QString FighterExport::folder()
 {
-    return QStringLiteral("./Resources/Exports/");
+    return exports().folder();
 }
 
 QString FighterExport::pathOf(const QString &name)
 {
-    return folder() + name + QStringLiteral(".dat");
+    return exports().pathOf(name);
 }
 
 bool FighterExport::isValidName(const QString &name, QString *reason)
 {
-    if (name.isEmpty())
-        return refuse(reason, QStringLiteral("A fighter with no name can't be exported."));
-    // a leading dot hides the file from the list of exports, and ".." leads out of the folder
-    if (name.startsWith('.'))
-        return refuse(
-            reason,
-            QStringLiteral("The name \"%1\" can't be the name of an export file: it starts with \".\".").arg(name));
-    for (const QChar c : name) {
-        if (c == '/' || c == '\\')
-            return refuse(
-                reason, QStringLiteral("The name \"%1\" can't be the name of an export file: it holds \"/\" or \"\\\".")
-                            .arg(name));
-        if (c.category() == QChar::Other_Control)
-            return refuse(reason, QStringLiteral("The name of this fighter can't be the name of an export file: it "
-                                                 "holds control characters."));
-    }
-    if (name.toUtf8().size() > LongestName)
-        return refuse(reason, QStringLiteral("The name of this fighter is too long for an export file."));
-    return true;
+    return exports().isValidName(name, reason);
 }
 
 bool FighterExport::exists(const QString &name)
 {
-    return isValidName(name) && QFileInfo(pathOf(name)).isFile();
+    return exports().exists(name);
 }
 
 bool FighterExport::canOpen(const QString &name)
 {
-    if (!isValidName(name))
-        return false;
-    QFile file(pathOf(name));
-    return file.open(QIODevice::ReadOnly);
+    return exports().canOpen(name);
 }
 
 QStringList FighterExport::exportFiles()
 {
-    QDir().mkpath(folder());
-    QStringList names;
-    const QStringList files = QDir(folder()).entryList({"*.dat"}, QDir::Files);
-    for (const QString &file : files)
-        names.append(file.chopped(4));
-    return names;
+    return exports().names();
 }
 
 bool FighterExport::write(int index, QString *reason)

@@ -1,6 +1,7 @@
 #include "persistence/SaveFile.h"
 
 #include "persistence/DataFile.h"
+#include "persistence/NamedFiles.h"
 #include "world/GameManager.h"
 #include "world/WorldState.h"
 
@@ -11,8 +12,17 @@
 
 namespace {
 
-// a file name of most file systems holds up to 255 bytes, ".dat" included
-constexpr int LongestName = 255 - 4;
+const NamedFiles &saves()
+{
+    static const NamedFiles folder(QStringLiteral("./Resources/Saves/"),
+                                   {"Please specify a file name for your save.",
+                                    "The name of a save can't start with \".\": such a file would be hidden from the "
+                                    "list of saved games.",
+                                    "The name of a save can't hold \"/\" or \"\\\".",
+                                    "The name of a save can't hold control characters.",
+                                    "That name is too long for a save."});
+    return folder;
+}
 
 void tell(QString *reason, const QString &text)
 {
@@ -24,63 +34,32 @@ void tell(QString *reason, const QString &text)
 
 QString SaveFile::folder()
 {
-    return QStringLiteral("./Resources/Saves/");
+    return saves().folder();
 }
 
 QString SaveFile::pathOf(const QString &name)
 {
-    return folder() + name + QStringLiteral(".dat");
+    return saves().pathOf(name);
 }
 
 bool SaveFile::isValidName(const QString &name, QString *reason)
 {
-    if (name.isEmpty()) {
-        tell(reason, QStringLiteral("Please specify a file name for your save."));
-        return false;
-    }
-    if (name.startsWith('.')) {
-        tell(reason, QStringLiteral("The name of a save can't start with \".\": such a file would be hidden "
-                                    "from the list of saved games."));
-        return false;
-    }
-    for (const QChar c : name) {
-        if (c == '/' || c == '\\') {
-            tell(reason, QStringLiteral("The name of a save can't hold \"/\" or \"\\\"."));
-            return false;
-        }
-        if (c.category() == QChar::Other_Control) {
-            tell(reason, QStringLiteral("The name of a save can't hold control characters."));
-            return false;
-        }
-    }
-    if (name.toUtf8().size() > LongestName) {
-        tell(reason, QStringLiteral("That name is too long for a save."));
-        return false;
-    }
-    return true;
+    return saves().isValidName(name, reason);
 }
 
 bool SaveFile::exists(const QString &name)
 {
-    return isValidName(name) && QFileInfo(pathOf(name)).isFile();
+    return saves().exists(name);
 }
 
 bool SaveFile::canOpen(const QString &name)
 {
-    if (!isValidName(name))
-        return false;
-    QFile file(pathOf(name));
-    return file.open(QIODevice::ReadOnly);
+    return saves().canOpen(name);
 }
 
 QStringList SaveFile::savedGames()
 {
-    QDir().mkpath(folder());
-    QStringList names;
-    const QStringList files = QDir(folder()).entryList({"*.dat"}, QDir::Files, QDir::Name);
-    for (const QString &file : files)
-        names.append(file.chopped(4));
-    return names;
+    return saves().names();
 }
 
 bool SaveFile::save(const QString &name, QString *reason)

@@ -220,33 +220,26 @@ void Module_Training::refreshGymPage()
 void Module_Training::upgradeSelectedEquipment(int equipment)
 {
     const int level = GameManager::instance().gymRecord().equipmentLevel(equipment);
-    if (level >= Entity_Gym::TopLevel) {
-        dialog->tell("Already at max level.", GameDialog::CancelButton);
-        return;
-    }
-    if (!dialog->ask("Are you sure you want to upgrade this equipment? It will cost " +
-                     dollars(Entity_Gym::equipmentPrice(level)) + ". "))
-        return;
-    if (!GameManager::instance().upgradeEquipment(equipment)) {
-        dialog->tell("Could not upgrade. Be sure that you have enough money.", GameDialog::AcceptButton);
-        return;
-    }
-    // the page shows the new level behind the message
-    refreshGymPage();
-    dialog->tell("Successfully upgraded.", GameDialog::AcceptButton);
+    offerUpgrade(level, "this equipment", Entity_Gym::equipmentPrice(level),
+                 [equipment] { return GameManager::instance().upgradeEquipment(equipment); });
 }
 
 void Module_Training::upgradeGym()
 {
     const int level = GameManager::instance().gymRecord().value(Entity_Gym::GymLevel);
+    offerUpgrade(level, "your gym", Entity_Gym::gymUpgradePrice(level),
+                 [] { return GameManager::instance().upgradeGym(); });
+}
+
+void Module_Training::offerUpgrade(int level, const QString &what, int price, const std::function<bool()> &buy)
+{
     if (level >= Entity_Gym::TopLevel) {
         dialog->tell("Already at max level.", GameDialog::CancelButton);
         return;
     }
-    if (!dialog->ask("Are you sure you want to upgrade your gym? It will cost " +
-                     dollars(Entity_Gym::gymUpgradePrice(level)) + ". "))
+    if (!dialog->ask("Are you sure you want to upgrade " + what + "? It will cost " + dollars(price) + ". "))
         return;
-    if (!GameManager::instance().upgradeGym()) {
+    if (!buy()) {
         dialog->tell("Could not upgrade. Be sure that you have enough money.", GameDialog::AcceptButton);
         return;
     }

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class GameDialog;
 class QAbstractButton;
@@ -40,6 +41,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    // every upgrade the same way: the top level, the question with its price, the purchase
+    void offerUpgrade(int level, const QString &what, int price, const std::function<bool()> &buy);
     QWidget *buildGymPage();
     QWidget *buildTrainingPage();
     QWidget *buildEquipmentPanel();

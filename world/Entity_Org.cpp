@@ -1,5 +1,7 @@
 #include "world/Entity_Org.h"
 
+#include "fighters/GameLists.h"
+
 #include "fighters/Random.h"
 #include "fighters/ReputationScale.h"
 #include "fighters/ResultEntry.h"
@@ -222,7 +224,7 @@ void Entity_Org::refreshReputations()
 
 namespace {
 
-constexpr const char *FreeAgent = "Free Agent";
+constexpr const char *FreeAgent = GameLists::FreeAgent;
 constexpr const char *LastingTitle = "World Championship";
 // the results that tell a man's form
 constexpr int FormResults = 5;

@@ -129,7 +129,7 @@ int GameManager::importFighter(const Entity_Fighter &man)
     newcomer.setId(++saved.nextId);
     // his wins and losses stand, but the nights and belts of another world mean nothing here
     newcomer.unpack(newcomer.stringList(), newcomer.integerList(), newcomer.getBirthDate(), {}, {});
-    newcomer.setContract("Free Agent", 0);
+    newcomer.setContract(GameLists::FreeAgent, 0);
     saved.freeAgents.insert(newcomer.getRankingScore(), newcomer);
     return saved.nextId;
 }

@@ -227,7 +227,7 @@ void GymPeople::recordGymResult(int id, const QString &entry, const QString &mat
             world.manager.closeTitle(world.currentDate, result.title());
     }
     // a man whose contract ended with this fight has left with the belt
-    if (result.isTitleFight() && fighter.text(Entity_Fighter::Organisation) == QLatin1String("Free Agent"))
+    if (result.isTitleFight() && fighter.text(Entity_Fighter::Organisation) == QLatin1String(GameLists::FreeAgent))
         world.manager.closeTitle(world.currentDate, result.title());
 }
 

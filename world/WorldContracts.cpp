@@ -1,5 +1,7 @@
 #include "world/WorldContracts.h"
 
+#include "fighters/GameLists.h"
+
 #include "fighters/Entity_Manager.h"
 #include "fighters/Random.h"
 #include "world/Entity_Match.h"
@@ -10,7 +12,7 @@
 
 namespace {
 
-constexpr const char *FreeAgent = "Free Agent";
+constexpr const char *FreeAgent = GameLists::FreeAgent;
 // an offer goes once its night lies fewer than this many days off
 constexpr int OfferLastDays = 8;
 // a new offer needs a night more than this many days off

@@ -14,7 +14,7 @@ namespace {
 constexpr int fantasyIdLimit = -100;
 // the one id that all students share until they turn professional
 constexpr int studentId = 2000;
-constexpr const char *FreeAgent = "Free Agent";
+constexpr const char *FreeAgent = GameLists::FreeAgent;
 
 // every man of the world and the gym but the students, with the place he stands in
 template <typename Visit>

@@ -1,5 +1,7 @@
 #include "world/WorldRosters.h"
 
+#include "fighters/GameLists.h"
+
 #include "fighters/Random.h"
 #include "fighters/ReputationScale.h"
 #include "world/PrestigeTable.h"
@@ -117,7 +119,7 @@ void WorldRosters::setTitleHolder(const QString &orgName, const QString &title, 
             return;
         const Entity_GymFighter &winner = world.fighters[index];
         // a man whose contract ended with this very fight cannot keep a world title
-        const bool leftWithTheBelt = winner.text(Entity_Fighter::Organisation) == QLatin1String("Free Agent") &&
+        const bool leftWithTheBelt = winner.text(Entity_Fighter::Organisation) == QLatin1String(GameLists::FreeAgent) &&
                                      title.contains("World Championship");
         holder = leftWithTheBelt ? QString(Entity_Org::VacantTitle) : winner.fullName();
     }
@@ -254,7 +256,7 @@ WorldRosters::Ageing WorldRosters::ageWorld(QStringList &news, const std::functi
         const bool birthday = age != man.number(Entity_Fighter::Age);
         if (age == ProfessionalAge) {
             man.developOneYear();
-            man.setContract("Free Agent", 0);
+            man.setContract(GameLists::FreeAgent, 0);
             key += NewProfessionalStep;
             world.freeAgents.insert(key, man);
             news << man.fullName() + " has come of age and turned professional.";

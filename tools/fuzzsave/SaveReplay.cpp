@@ -68,17 +68,8 @@ SaveReplay::Result SaveReplay::replay(const QByteArray &input) const
 
 WorldState SaveReplay::defaultWorld()
 {
-    GameManager::NewGame choices;
-    choices.firstName = "Ken";
-    choices.lastName = "Saito";
-    choices.region = "East Asia";
-    choices.nation = "Japan";
-    choices.gymName = "Tiger Den";
-    choices.gymStyle = "Muay Thai";
-    choices.primaryColour = "Gold";
-    choices.secondaryColour = "Black";
     GameManager &game = GameManager::instance();
-    game.startNewGame(choices, DefaultWorld::read());
+    DefaultWorld::startPlainGame();
     const WorldState world = game.state();
     game.resetWorld();
     return world;

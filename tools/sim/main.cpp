@@ -93,21 +93,6 @@ bool parse(const QStringList &args, Options &options)
     return daysGiven;
 }
 
-// the new game of a user who takes every default: the manager's skills at their lowest
-GameManager::NewGame plainNewGame()
-{
-    GameManager::NewGame choices;
-    choices.firstName = "Sim";
-    choices.lastName = "Manager";
-    choices.region = "East Asia";
-    choices.nation = "Japan";
-    choices.gymName = "Sim Gym";
-    choices.gymStyle = "Kickboxing";
-    choices.primaryColour = "Black";
-    choices.secondaryColour = "Red";
-    return choices;
-}
-
 // the default files lie beside the game, in ./Resources/Defaults
 bool defaultWorldHere()
 {
@@ -130,7 +115,7 @@ int fightMatches(const QStringList &args)
     if (!defaultWorldHere())
         return 1;
     GameManager &world = GameManager::instance();
-    world.startNewGame(plainNewGame(), DefaultWorld::read());
+    DefaultWorld::startPlainGame();
     MatchesRun run(world);
     if (!run.hasPairs()) {
         QTextStream(stderr) << "no roster of the default world holds two men\n";
@@ -163,7 +148,7 @@ int main(int argc, char *argv[])
     if (options.load.isEmpty()) {
         if (!defaultWorldHere())
             return 1;
-        world.startNewGame(plainNewGame(), DefaultWorld::read());
+        DefaultWorld::startPlainGame();
     } else {
         QString reason;
         if (!SaveFile::loadFrom(options.load, &reason)) {
