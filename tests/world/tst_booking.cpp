@@ -281,8 +281,6 @@ private slots:
         QTest::newRow("a full card ten days out takes nothing and makes no news") << s;
         s = {}, s.daysOut = 10, s.lines = 1;
         QTest::newRow("ten days out: one man a day") << s;
-        s.daysOut = 8;
-        QTest::newRow("eight days out: still one man a day") << s;
         s.daysOut = 7, s.lines = 6, s.complete = 1;
         QTest::newRow("seven days out: the whole card in one day") << s;
         s = {}, s.userPosition = 8, s.userOnUndercard = true, s.lines = 5, s.complete = 1;

@@ -37,42 +37,6 @@ class tst_Cards : public QObject
     Q_OBJECT
 
 private slots:
-    void aMatchFillsItsPlacesInOrder()
-    {
-        Entity_Match match;
-        QCOMPARE(match.matchType(), Single);
-        QVERIFY(!match.isFilled());
-        QVERIFY(match.addFighter(11, "Al Ames", false));
-        QCOMPARE(match.fighterOne(), QString("Al Ames"));
-        QCOMPARE(match.fighterTwo(), QString("TBA"));
-        QVERIFY(match.addFighter(12, "Bo Bell", true));
-        QVERIFY(match.isFilled());
-        QVERIFY(match.isGymFighterBooked());
-        QVERIFY(!match.addFighter(13, "Cy Cole", false));
-
-        match.removeFighter(11, false);
-        QCOMPARE(match.fighterOne(), QString("TBA"));
-        QCOMPARE(match.fighterOneId(), 0);
-        QVERIFY(match.isGymFighterBooked()); // a stranger leaving changes nothing for the user
-        match.removeFighter(12, true);
-        QVERIFY(!match.isGymFighterBooked());
-
-        match.addFighter(13, "Cy Cole", false);
-        match.reset();
-        QVERIFY(match == Entity_Match(Single));
-    }
-
-    void aMatchNeverHoldsTwoMenOfTheUser()
-    {
-        Entity_Match match(Semi);
-        QVERIFY(match.addFighter(21, "Dan Day", true));
-        QVERIFY(!match.addFighter(22, "Eli Eck", true));
-        QCOMPARE(match.fighterTwo(), QString("TBA"));
-        // a stranger beside him leaves the flag standing
-        QVERIFY(match.addFighter(23, "Fay Fox", false));
-        QVERIFY(match.isGymFighterBooked());
-    }
-
     // who may be added where on a card
     void addingToACard_data()
     {
@@ -89,7 +53,6 @@ private slots:
         Entity_Event withUser = plain;
         withUser.addFighter(31, "Gus Gray", Single, true);
 
-        QTest::newRow("first man on an empty card") << plain << 11 << Single << false << true << false;
         QTest::newRow("a slot type the card lacks") << plain << 11 << Title << false << false << false;
         QTest::newRow("the user's man marks the card") << plain << 31 << Single << true << true << true;
         QTest::newRow("a man twice on a card") << withAl << 11 << Single << false << false << false;
@@ -105,7 +68,6 @@ private slots:
         QTest::newRow("second man of the user refused a quarterfinal")
             << userFinals << 42 << Quarter << true << false << true;
         QTest::newRow("second man of the user into a semifinal") << userFinals << 42 << Semi << true << true << true;
-        QTest::newRow("second man of the user into the final") << userFinals << 42 << Final << true << true << true;
 
         // the exception holds for tournament cards only
         Entity_Event semisOnly =
@@ -129,20 +91,6 @@ private slots:
             QVERIFY(card == before);
         else
             QVERIFY(card.holdsFighter(id));
-    }
-
-    void removingFromACard()
-    {
-        Entity_Event card = fightNight();
-        card.addFighter(11, "Al Ames", Single, false);
-        card.addFighter(31, "Gus Gray", Single, true);
-        card.removeFighter(99, true); // nobody of that id: the user's mark stays
-        QVERIFY(card.isUserBooked());
-        card.removeFighter(31, true);
-        QVERIFY(!card.isUserBooked());
-        QVERIFY(!card.holdsFighter(31));
-        QVERIFY(card.holdsFighter(11));
-        QVERIFY(!card.matchAt(0).isGymFighterBooked());
     }
 
     void fillTests_data()
@@ -189,17 +137,6 @@ private slots:
         QCOMPARE(card.singlesFilled(), singles);
         QCOMPARE(card.championshipsFilled(), titles);
         QCOMPARE(card.tournamentSlotsFilled(), tournamentSlots);
-    }
-
-    void cardKinds()
-    {
-        QVERIFY(finalsNight().hasTournamentRounds());
-        QVERIFY(!finalsNight().hasQualifier());
-        QVERIFY(!finalsNight().hasChampionship());
-        const Entity_Event qualifiers = makeEvent("Q", "GKO", night, {slot(Qualifier), slot(Single)});
-        QVERIFY(qualifiers.hasQualifier());
-        QVERIFY(!qualifiers.hasTournamentRounds());
-        QVERIFY(makeEvent("T", "G-1", night, {slot(Single), slot(Title)}).hasChampionship());
     }
 
     // the main event names the night as it fills up

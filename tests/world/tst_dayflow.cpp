@@ -136,10 +136,6 @@ private slots:
         QTest::addColumn<int>("matches");
         QTest::newRow("the world's night") << false << QList<Entity_Match>{alphaVsBravo("Single Match")} << 1;
         QTest::newRow("the user's night") << true << QList<Entity_Match>{alphaVsBravo("Single Match")} << 0;
-        QTest::newRow("open place") << false
-                                    << QList<Entity_Match>{slot("Single Match", "Ken Alpha", 101),
-                                                           alphaVsBravo("Single Match")}
-                                    << 1;
         QTest::newRow("a man the roster no longer holds")
             << false << QList<Entity_Match>{slot("Single Match", "Ken Alpha", 101, "Ken Gone", 999)} << 0;
     }
@@ -175,8 +171,6 @@ private slots:
         QTest::newRow("championship") << "Championship Match" << true << true << true << false;
         QTest::newRow("tournament final") << "Tournament Final" << true << false << true << false;
         QTest::newRow("qualifier") << "Tournament Qualifier" << false << false << false << true;
-        QTest::newRow("quarterfinal") << "Tournament Quarterfinal" << false << false << false << true;
-        QTest::newRow("semifinal") << "Tournament Semifinal" << false << false << false << true;
     }
     void worldMatch()
     {
@@ -221,17 +215,6 @@ private slots:
         QVERIFY(WorldInvariants::check(world.state()).isEmpty());
     }
 
-    // a winner who fights on is named in the results on the line right after his match
-    void tournamentWinnerLinesFollowHisMatch()
-    {
-        QVERIFY(worldWith({alphaVsBravo("Tournament Quarterfinal")}).load());
-        runDay();
-        const QStringList results = tonight().results();
-        QCOMPARE(results.size(), 2);
-        QVERIFY(results[0].startsWith("Tournament Quarterfinal - ") && !results[0].endsWith('\n'));
-        QVERIFY(results[1].endsWith('\n'));
-    }
-
     // the jobs of a new month and a new year run on the new date, each at most once
     void calendarJobs_data()
     {
@@ -241,7 +224,6 @@ private slots:
         QTest::newRow("31 December: month and year") << QDate(2011, 12, 31) << true << true;
         QTest::newRow("30 November: the month") << QDate(2011, 11, 30) << true << false;
         QTest::newRow("1 January: nothing") << QDate(2012, 1, 1) << false << false;
-        QTest::newRow("15 June: nothing") << QDate(2011, 6, 15) << false << false;
     }
     void calendarJobs()
     {

@@ -144,16 +144,9 @@ private slots:
     // A fantasy night takes copies of the gym's man and of his guest under ids of their own and a
     // ranking score of 0, among the amateurs, where the fight night finds them; the night stands
     // in no calendar; and once the two copies go, the world is what it was to the last byte.
-    void aFantasyNightLeavesNoTrace_data()
-    {
-        QTest::addColumn<int>("index");
-        QTest::newRow("the first man of the gym") << 0;
-        QTest::newRow("the second man of the gym") << 1;
-    }
-
     void aFantasyNightLeavesNoTrace()
     {
-        QFETCH(int, index);
+        const int index = 0;
         QVERIFY(gymWorld("GKO", 7, true, 2).load());
         const QByteArray before = savedWorld();
         const F home = world().fighterById(world().fighterIdAt(index)).fighter();
@@ -192,32 +185,6 @@ private slots:
 
         world().removeFantasyFighters();
         QCOMPARE(savedWorld(), before);
-    }
-
-    // the bio is free text: whatever lines the user typed come back after a save and a load
-    void aBioSurvivesSaveAndLoad_data()
-    {
-        QTest::addColumn<QString>("bio");
-        QTest::newRow("lines") << "New Fighter\nHard Hitter\nTough";
-        QTest::newRow("an empty line between") << "Champion of Spring.\n\nRetired the Legend.";
-        QTest::newRow("a break at the end") << "New Fighter\n";
-        QTest::newRow("carriage returns") << "First line\r\nSecond line";
-        QTest::newRow("nothing") << "";
-        QTest::newRow("letters of any tongue") << QString("Ümit \"The Wall\" Öztürk\n鉄壁");
-    }
-
-    void aBioSurvivesSaveAndLoad()
-    {
-        QFETCH(QString, bio);
-        QVERIFY(gymWorld("GKO", 7, false, 2).load());
-        world().setFighterBio(1, bio);
-        const QByteArray saved = savedWorld();
-        world().resetWorld();
-        WorldState read;
-        QVERIFY(WorldState::fromBytes(saved, read));
-        world().takeWorld(read);
-        QCOMPARE(world().fighterStrings(1).value(F::Bio), bio);
-        QCOMPARE(world().fighterStrings(0).value(F::Bio), QString());
     }
 };
 

@@ -45,16 +45,6 @@ private slots:
     void init() { Random::useTestClock(12); }
     void cleanup() { GameManager::instance().resetWorld(); }
 
-    void setTrainingPlan()
-    {
-        QVERIFY(gymWorld().load());
-        GameManager &world = GameManager::instance();
-        world.setTrainingPlan(1102, 13);
-        world.setTrainingPlan(4242, 7); // nobody: nothing changes
-        QCOMPARE(world.fighterById(1102).trainingPlan, 13);
-        QCOMPARE(world.fighterById(1101).trainingPlan, 1);
-    }
-
     // The gym trains before the world fights, pays for it at once, and the news of the new day
     // holds the birthdays; on the second of the month each log keeps only its last line.
     void aDayOfTheGym()

@@ -180,14 +180,6 @@ private slots:
         QCOMPARE(night(Finals).matchAt(match).fighterOneId(), man.getId());
     }
 
-    void aWinnerNobodyHoldsGoesNowhere()
-    {
-        QVERIFY(worldOf({makeEvent(Finals, Org, Today, finalsCard(true), Prix)}).load());
-        QCOMPARE(GameManager::instance().advanceTournamentWinner(999, Org), QString());
-        QCOMPARE(GameManager::instance().advanceTournamentWinner(101, "No Such FC"), QString());
-        QVERIFY(!night(Finals).matchAt(5).holds(101));
-    }
-
     // the user's man who wins his qualifier is booked for the finals night at once
     void aGymWinnersBookingFollowsHim()
     {
