@@ -111,16 +111,6 @@ private slots:
         QVERIFY(!man.titleList().join("").contains(" - from"));
     }
 
-    void twoMatchesOnOneDate()
-    {
-        Entity_Fighter man = contracted(5);
-        QString quarter = entry("Win");
-        QString semi = entry("Loss");
-        man.addResult(spring, quarter, "Tournament Quarterfinal");
-        man.addResult(spring, semi, "Tournament Semifinal");
-        QCOMPARE(man.history().values(spring).size(), 2);
-    }
-
     // which fights come off the contract, and what its end does
     void contractCount_data()
     {
@@ -132,22 +122,16 @@ private slots:
 
         QTest::newRow("a won single match") << 3 << "Win"
                                             << "Single Match" << 2 << "G-1";
-        QTest::newRow("a won title fight") << 3 << "Win"
-                                           << "Championship Match" << 2 << "G-1";
         QTest::newRow("a won final") << 3 << "Win"
                                      << "Tournament Final" << 2 << "G-1";
         QTest::newRow("a won qualifier costs nothing") << 1 << "Win"
                                                        << "Tournament Qualifier" << 1 << "G-1";
-        QTest::newRow("a won quarterfinal costs nothing") << 1 << "Win"
-                                                          << "Tournament Quarterfinal" << 1 << "G-1";
         QTest::newRow("a won semifinal on the last fight") << 1 << "Win"
                                                            << "Tournament Semifinal" << 1 << "G-1";
         QTest::newRow("a lost quarterfinal counts") << 3 << "Loss"
                                                     << "Tournament Quarterfinal" << 2 << "G-1";
         QTest::newRow("a loss on the last fight") << 1 << "Loss"
                                                   << "Single Match" << 0 << "Free Agent";
-        QTest::newRow("a win on the last fight") << 1 << "Win"
-                                                 << "Single Match" << 0 << "Free Agent";
         QTest::newRow("a draw counts nothing") << 1 << "Draw"
                                                << "Single Match" << 1 << "G-1";
     }

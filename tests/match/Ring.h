@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../fighters/TableRows.h"
 #include "fighters/Entity_Fighter.h"
 #include "match/Entity_MatchFighter.h"
 #include "match/MatchEvent.h"

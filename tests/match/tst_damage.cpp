@@ -44,35 +44,19 @@ private slots:
 
     // A clean hit lands by the strike: on the head as it is, on the body or the legs half as much
     // again. A man of all 0 absorbs nothing, so a blow of 20 takes 20 stamina.
-    void whereACleanHitLands_data()
-    {
-        QTest::addColumn<int>("strike");
-        QTest::addColumn<int>("part");
-        QTest::newRow("jab") << int(EvJab) << int(Head);
-        QTest::newRow("hook") << int(EvHook) << int(Head);
-        QTest::newRow("cross") << int(EvCross) << int(Head);
-        QTest::newRow("uppercut") << int(EvUppercut) << int(Head);
-        QTest::newRow("low kick to the legs") << int(EvLowKick) << int(Legs);
-        QTest::newRow("mid kick to the body") << int(EvMidKick) << int(Body);
-        QTest::newRow("high kick") << int(EvHighKick) << int(Head);
-        QTest::newRow("front kick to the body") << int(EvFrontKick) << int(Body);
-        QTest::newRow("knee to the body") << int(EvKnee) << int(Body);
-        QTest::newRow("elbow") << int(EvElbow) << int(Head);
-        QTest::newRow("dirty boxing to the body") << int(EvDirtyBox) << int(Body);
-        QTest::newRow("body punch") << int(EvBodyPunch) << int(Body);
-    }
-
     void whereACleanHitLands()
     {
-        QFETCH(int, strike);
-        QFETCH(int, part);
+        // jab, hook, cross, uppercut, low, mid, high and front kick, knee, elbow, dirty boxing, body punch
+        const Part parts[] = {Head, Head, Head, Head, Legs, Body, Head, Body, Body, Head, Body, Body};
         quietAttacker(man(2, "Puncher", 0));
-        for (int i = 0; i < 100; ++i) {
+        for (int i = 0; i < 12 * 50; ++i) {
+            const int strike = EvJab + i % 12;
             unbreakable(two());
             two().setStamina(Plenty);
             two().setState(new State_Gen_FullDmg(two()));
             two().receiveEvent(strike, 20);
             QList<int> expected(5, 0);
+            const Part part = parts[strike - EvJab];
             expected[part] = part == Head ? 20 : 30;
             expected[4] = 20;
             QCOMPARE(losses(two()), expected);
@@ -228,7 +212,6 @@ private slots:
 
         QTest::newRow("a rattled glass jaw is stunned") << false << 0 << 10000 << 5 << 6 << 0.99;
         QTest::newRow("a rattled iron jaw is not") << false << 99 << 10000 << 5 << 0 << 1.0;
-        QTest::newRow("half a jaw, half the time") << false << 50 << 10000 << 5 << 6 << 0.49;
         QTest::newRow("a composed man keeps his head") << true << 0 << 10000 << 5 << 0 << 1.0;
         QTest::newRow("a beaten rattled head is dazed") << false << 99 << -100 << 0 << 5 << 1.0;
         QTest::newRow("a blow of 10 never dazes") << true << 99 << 10000 << 10 << 0 << 1.0;
@@ -262,7 +245,6 @@ private slots:
         QTest::addColumn<double>("share");
         QTest::newRow("a jaw of 0 is out 99 times in 100") << 0 << 0.99;
         QTest::newRow("a jaw of 50, 49 times") << 50 << 0.49;
-        QTest::newRow("a jaw of 75, 24 times") << 75 << 0.24;
         QTest::newRow("a jaw of 99 only goes down") << 99 << 0.0;
     }
 

@@ -91,20 +91,14 @@ private slots:
         const QStringList highPunch{"State_Def_BlockHighPunch", high, "State_Def_DodgeHigh"};
         const QStringList body{"State_Def_BlockMid", mid, "State_Def_DodgeMid"};
         QTest::newRow("jab") << int(EvJab) << highPunch;
-        QTest::newRow("hook") << int(EvHook) << highPunch;
-        QTest::newRow("cross") << int(EvCross) << highPunch;
-        QTest::newRow("uppercut") << int(EvUppercut) << highPunch;
         QTest::newRow("low kick is blocked when countered")
             << int(EvLowKick) << QStringList{"State_Def_BlockLow", "State_Def_BlockLow", "State_Def_DodgeLow"};
         QTest::newRow("mid kick") << int(EvMidKick) << body;
         QTest::newRow("high kick") << int(EvHighKick)
                                    << QStringList{"State_Def_BlockHighKick", high, "State_Def_DodgeHigh"};
-        QTest::newRow("front kick") << int(EvFrontKick) << body;
-        QTest::newRow("knee") << int(EvKnee) << body;
         QTest::newRow("elbow") << int(EvElbow) << QStringList{"State_Def_BlockClinch", high, "State_Def_DodgeClinch"};
         QTest::newRow("dirty boxing") << int(EvDirtyBox)
                                       << QStringList{"State_Def_BlockClinch", mid, "State_Def_DodgeClinch"};
-        QTest::newRow("body punch") << int(EvBodyPunch) << body;
     }
 
     void choiceOfDefence()
@@ -288,7 +282,6 @@ private slots:
         QTest::addColumn<int>("attacker");
         QTest::newRow("a Puncher jabs at long range") << "Puncher" << Out << 0 << false << int(EvJab) << 1;
         QTest::newRow("a Kicker front-kicks") << "Kicker" << Out << 0 << false << int(EvFrontKick) << 1;
-        QTest::newRow("so does a Clincher") << "Clincher" << Out << 0 << false << int(EvFrontKick) << 1;
         QTest::newRow("an uppercut in the pocket") << "Outfighter" << In << 0 << false << int(EvUppercut) << 1;
         QTest::newRow("a knee in the clinch") << "Clincher" << Clinch << 0 << false << int(EvKnee) << 1;
         QTest::newRow("a driven man takes the initiative back") << "Puncher" << Out << 99 << false << int(EvJab) << 2;

