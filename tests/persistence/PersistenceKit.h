@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fighters/Entity_Fighter.h"
+#include "fighters/StreamForm.h"
 #include "persistence/DefaultWorld.h"
 #include "world/Entity_Org.h"
 #include "world/GameManager.h"
@@ -30,6 +31,28 @@ inline QList<Entity_Fighter> worldMen(const WorldState &world)
         men += roster.values();
     }
     return men + world.freeAgents.values() + world.amateurs.values();
+}
+
+inline QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline bool writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+}
+
+// a value in the stream form of the game's files
+template <typename Value> QByteArray streamed(const Value &value)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    out << value;
+    return bytes;
 }
 
 inline bool defaultsPresent()

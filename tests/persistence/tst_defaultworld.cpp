@@ -1,12 +1,6 @@
 #include "PersistenceKit.h"
 
-#include "fighters/NationTable.h"
-#include "fighters/Random.h"
-#include "fighters/StreamForm.h"
-#include "persistence/DataFile.h"
-#include "persistence/DefaultFiles.h"
 #include "persistence/DefaultWorld.h"
-#include "persistence/NameFiles.h"
 #include "world/Entity_Match.h"
 #include "world/OrgTable.h"
 #include "world/WorldInvariants.h"
@@ -78,28 +72,6 @@ private slots:
     {
         QVERIFY2(defaultsPresent(), "the default files are missing: build orvane_runtime_files");
         world = DefaultWorld::read();
-    }
-
-    void organisationsInTheirOrder()
-    {
-        QStringList names;
-        for (const Entity_Org &org : std::as_const(world.organisations))
-            names.append(org.name());
-        QCOMPARE(names, OrgTable::names());
-        QMap<QString, int> levels;
-        for (const Entity_Org &org : std::as_const(world.organisations)) {
-            QCOMPARE(org.willingness(), QString("Willing"));
-            levels[org.prestige()] += 1;
-        }
-        QCOMPARE(levels.size(), 5);
-        for (const Band &band : bands)
-            QVERIFY2(levels.contains(band.prestige), band.prestige);
-        // more small promotions than great ones
-        QVERIFY(levels["Elite"] <= levels["World Class"] && levels["World Class"] <= levels["International"]);
-        QVERIFY(levels["Regional"] > levels["Elite"] + 1);
-        // the world is not touched beyond its lists
-        QCOMPARE(world.nextId, 1058);
-        QCOMPARE(world.currentDate, QDate(2011, 1, 1));
     }
 
     // the rules that hold at the end of every day hold on the first one
@@ -190,30 +162,6 @@ private slots:
         }
     }
 
-    // every title row has a holder of the roster whose own title list shows the reign
-    void titleRows_data() { orgRows(); }
-    void titleRows()
-    {
-        QFETCH(int, index);
-        const Entity_Org org = world.organisations.value(index);
-        const Entity_Org::Titles titles = titlesOf(org);
-        const Entity_Org::Roster roster = rosterOf(org);
-        bool titleNights = false;
-        for (const Entity_Event &night : calendarOf(org))
-            titleNights = titleNights || night.hasChampionship() || night.hasTournamentRounds();
-        QCOMPARE(!titles.isEmpty(), titleNights);
-        for (auto it = titles.cbegin(); it != titles.cend(); ++it) {
-            QVERIFY2(it.key().contains("World Championship") || it.key().contains("Grand Prix 2010"),
-                     qPrintable(it.key()));
-            bool reign = false;
-            for (const F &man : roster)
-                if (man.fullName() == it.value())
-                    for (const QString &entry : man.titleList())
-                        reign = reign || (entry.startsWith(it.key()) && !entry.contains("until"));
-            QVERIFY2(reign, qPrintable(it.key() + ": " + it.value()));
-        }
-    }
-
     // the careers of the years before: lines, record and opponents agree
     void careersAgreeWithRecords()
     {
@@ -244,131 +192,6 @@ private slots:
             QCOMPARE(man.number(F::Kos), kos);
         }
         QVERIFY(withHistory > 500);
-    }
-
-    void idsAndNations()
-    {
-        NationTable::Lists lists;
-        QVERIFY(NameFiles::readNations(lists, DefaultFiles::path(DefaultFiles::nationsFile())));
-        QSet<int> ids;
-        QSet<QString> names;
-        const QList<F> men = worldMen(world);
-        for (const F &man : men) {
-            QVERIFY2(man.getId() >= 10 && man.getId() <= 1058, qPrintable(QString::number(man.getId())));
-            QVERIFY2(!ids.contains(man.getId()), qPrintable(QString::number(man.getId())));
-            ids.insert(man.getId());
-            QVERIFY2(!names.contains(man.fullName()), qPrintable(man.fullName()));
-            names.insert(man.fullName());
-            const int region = NationTable::regionIndex(man.text(F::Region));
-            QVERIFY2(lists.value(region).contains(man.text(F::Nationality)), qPrintable(man.fullName()));
-        }
-        QVERIFY(men.size() > 800);
-    }
-
-    void freeAgentsAndAmateurs()
-    {
-        QVERIFY(world.freeAgents.size() >= 40);
-        for (auto it = world.freeAgents.cbegin(); it != world.freeAgents.cend(); ++it) {
-            QCOMPARE(it.key(), it.value().getRankingScore());
-            QCOMPARE(it.value().text(F::Organisation), QString("Free Agent"));
-            QCOMPARE(it.value().number(F::ContractFightsLeft), 0);
-            QVERIFY(it.value().number(F::Age) >= 18 && it.value().number(F::Age) < 38);
-        }
-        QVERIFY(world.amateurs.size() >= 100);
-        QSet<int> comingOfAge;
-        for (auto it = world.amateurs.cbegin(); it != world.amateurs.cend(); ++it) {
-            const F &boy = it.value();
-            QCOMPARE(it.key(), boy.getRankingScore());
-            QVERIFY(boy.number(F::Age) < 18);
-            // the stored age is his age on the first day, and he turns 18 on a later day
-            const QDate eighteenth = boy.getBirthDate().addYears(18);
-            QVERIFY(eighteenth > world.currentDate);
-            QCOMPARE(boy.getBirthDate().addYears(boy.number(F::Age)) <= world.currentDate, true);
-            QVERIFY(boy.getBirthDate().addYears(boy.number(F::Age) + 1) > world.currentDate);
-            comingOfAge.insert(eighteenth.year());
-        }
-        // new professionals arrive year after year
-        QVERIFY(comingOfAge.size() >= 6);
-    }
-
-    void lastYearsNights_data() { orgRows(); }
-    void lastYearsNights()
-    {
-        QFETCH(int, index);
-        QList<Entity_Event> past;
-        world.organisations.value(index).pastEvents(past);
-        QVERIFY(!past.isEmpty());
-        for (const Entity_Event &night : past) {
-            QCOMPARE(night.date().year(), 2010);
-            QVERIFY(night.cardFilled());
-            QVERIFY(night.results().size() >= night.matchCount());
-        }
-    }
-
-    // the new man's name is also new to the whole default world
-    void firstNewManAfterTheDefaults()
-    {
-        GameManager::instance().takeWorld(world);
-        QString name;
-        QVERIFY(!GameManager::instance().generateFighter(NameFiles::book(), name, false));
-        int id = 0;
-        for (const F &man : GameManager::instance().state().freeAgents)
-            if (man.fullName() == name)
-                id = man.getId();
-        QCOMPARE(id, 1059);
-        QCOMPARE(GameManager::instance().getNextId(), 1059);
-        for (const F &man : worldMen(world))
-            QVERIFY(man.fullName() != name);
-    }
-
-    void nameFamilies_data()
-    {
-        QTest::addColumn<QString>("family");
-        for (const QString &family : NationTable::families())
-            QTest::newRow(qPrintable(family)) << family;
-    }
-    void nameFamilies()
-    {
-        QFETCH(QString, family);
-        const FighterGenerator::Names names = NameFiles::readNames(DefaultFiles::path(DefaultFiles::namesFile(family)));
-        QVERIFY(names.first.size() >= 100);
-        QVERIFY(names.last.size() >= 100);
-        QCOMPARE(QSet<QString>(names.first.cbegin(), names.first.cend()).size(), names.first.size());
-    }
-
-    // the nation file puts each main nation where its place gives its own family
-    void mainNationsInTheNationFile()
-    {
-        NationTable::Lists lists;
-        QVERIFY(NameFiles::readNations(lists, DefaultFiles::path(DefaultFiles::nationsFile())));
-        for (int main = 0; main < NationTable::MainCount; ++main) {
-            const int region = NationTable::mainRegion(main);
-            const QString nation = NationTable::mainNation(main);
-            const int position = int(lists[region].indexOf(nation));
-            QVERIFY2(position >= 0, qPrintable(nation + " is not in its region"));
-            // the same family whether it is found by its place or by the main list alone
-            QCOMPARE(NationTable::family(region, position),
-                     NationTable::familyOf(NationTable::Lists(NationTable::RegionCount), region, nation));
-        }
-    }
-
-    void helpTexts()
-    {
-        QList<QMap<QString, QString>> screens;
-        QVERIFY(DataFile::read(DefaultFiles::path(DefaultFiles::helpFile()), [&screens](QDataStream &in) {
-            for (int i = 0; i < DefaultFiles::HelpScreens; ++i) {
-                QMap<QString, QString> topics;
-                StreamForm::readMap(in, topics);
-                screens.append(topics);
-            }
-        }));
-        for (const auto &topics : std::as_const(screens)) {
-            QVERIFY(!topics.isEmpty());
-            for (const QString &text : topics)
-                QVERIFY(text.size() > 40);
-        }
-        // the new game screen has a picture for its fifth topic on
-        QVERIFY(screens[0].size() >= 5);
     }
 
     // without the files the world keeps its eighteen promotions, empty, and gains nobody

@@ -61,29 +61,6 @@ SavedWorld worldWith(const QList<Entity_GymFighter> &fighters, int nextId)
     return world;
 }
 
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(exports);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-template <typename Value> QByteArray streamed(const Value &value)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(StreamForm::version);
-    out << value;
-    return bytes;
-}
-
 // a man's five parts written by hand, so that a count can be wrong
 QByteArray streamedParts(const QStringList &strings, const QList<int> &integers)
 {
@@ -196,21 +173,14 @@ private slots:
 
         QTest::newRow("an empty file") << QByteArray() << "The file is empty.";
         QTest::newRow("cut inside the strings") << whole.left(stringsEnd - 5) << "ends before";
-        QTest::newRow("cut inside the integers") << whole.left(stringsEnd + 4 + 50 * 4) << "ends before";
         QTest::newRow("cut inside the last title") << whole.chopped(3) << "ends before";
         QTest::newRow("one byte more") << whole + QByteArray(1, '\0') << "more than one";
-        QTest::newRow("two men in one file") << whole + whole << "more than one";
         QTest::newRow("a saved game") << worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1200).bytes() << "";
-        QTest::newRow("a text file") << QByteArray("Reto Meyer, 7 wins, 2 losses\n") << "";
         QTest::newRow("eleven strings") << streamedParts(good.stringList().mid(1), good.integerList()) << "damaged";
-        QTest::newRow("94 integers") << streamedParts(good.stringList(), good.integerList().mid(1)) << "damaged";
         QTest::newRow("a style of no list")
             << changed([](F &f) { f.setText(F::FightingStyle, "Ninja"); }) << "fighting style is unknown";
-        QTest::newRow("a colour of no list")
-            << changed([](F &f) { f.setText(F::TrimColour, "Pink"); }) << "trim colour";
         QTest::newRow("a head of no picture")
             << changed([](F &f) { f.setNumber(F::HeadImage, 9); }) << "head picture is out of range";
-        QTest::newRow("no face picture") << changed([](F &f) { f.setNumber(F::FaceImage, 0); }) << "face picture";
         QTest::newRow("an attribute far out of range")
             << changed([](F &f) { f.setNumber(F::Discipline, 5000); }) << "attributes";
         QTest::newRow("more knockouts than wins")
@@ -218,7 +188,6 @@ private slots:
         QTest::newRow("no birthday") << changed([](F &f) { f.setBirthDate(QDate()); }) << "birthday is no date";
         QTest::newRow("a name that leaves the folder")
             << changed([](F &f) { f.setText(F::LastName, "../Meyer"); }) << "name";
-        QTest::newRow("no first name") << changed([](F &f) { f.setText(F::FirstName, ""); }) << "name";
     }
 
     void aFileThatHoldsNoFighterIsRefused()
@@ -226,7 +195,8 @@ private slots:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, reason);
         QVERIFY(worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1200).load());
-        writeFile(FighterExport::pathOf("Stranger"), bytes);
+        QDir().mkpath(exports);
+        QVERIFY(writeBytes(FighterExport::pathOf("Stranger"), bytes));
         const QByteArray before = worldBytes();
 
         QString told;
@@ -251,16 +221,12 @@ private slots:
         QTest::newRow("a plain name") << "Reto"
                                       << "Meyer" << true;
         QTest::newRow("accents") << QString("Ümit") << QString("Öztürk") << true;
-        QTest::newRow("an apostrophe") << "Sean"
-                                       << "O'Neil" << true;
         QTest::newRow("a slash") << "Reto"
                                  << "../../Escaped" << false;
         QTest::newRow("a backslash") << "Reto"
                                      << "..\\Escaped" << false;
         QTest::newRow("two dots first") << ".."
                                         << "Escaped" << false;
-        QTest::newRow("a hidden file") << ".Reto"
-                                       << "Meyer" << false;
         QTest::newRow("a control character") << "Reto"
                                              << "Me\tyer" << false;
         QTest::newRow("longer than a file name") << QString(200, 'A') << QString(60, 'B') << false;
@@ -287,30 +253,6 @@ private slots:
             QVERIFY(!reason.isEmpty());
             QCOMPARE(filesAround(), before);
         }
-    }
-
-    // with nobody at that place of the gym there is nobody to write, and no file comes of it
-    void nobodyIsExportedFromAnEmptyPlace()
-    {
-        QVERIFY(worldWith({gymMan("Reto", "Meyer", 1101, "GKO")}, 1101).load());
-        QString reason;
-        QVERIFY(!FighterExport::write(1, &reason));
-        QVERIFY(!FighterExport::write(-1, &reason));
-        QCOMPARE(reason, QString("You have no fighters to export."));
-        QVERIFY(FighterExport::exportFiles().isEmpty());
-    }
-
-    // writing again replaces the man's file whole and leaves no side file behind
-    void aSecondExportReplacesTheFile()
-    {
-        Entity_GymFighter pro = gymMan("Reto", "Meyer", 1101, "GKO");
-        QVERIFY(worldWith({pro}, 1101).load());
-        QVERIFY(FighterExport::write(0));
-        GameManager::instance().setFighterBio(0, "Retired the champion.\nTwice.");
-        QVERIFY(FighterExport::write(0));
-        pro.setBio("Retired the champion.\nTwice.");
-        QCOMPARE(fileBytes(FighterExport::pathOf("Reto Meyer")), streamed(pro.fighter()));
-        QCOMPARE(QDir(exports).entryList(QDir::Files | QDir::Hidden), QStringList{"Reto Meyer.dat"});
     }
 
 private:

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
+#include <QtTest>
 
 // Drives the game's screens as a player would, with nobody at the keyboard.
 namespace ScreenTestKit {
@@ -75,6 +76,30 @@ private:
     QStringList presses;
     QStringList picks;
 };
+
+// clicks the button, answers the dialogs that follow as given, and gives back what they showed
+inline QList<DialogScript::Seen> press(QAbstractButton *button, const QStringList &answers,
+                                       const QStringList &picks = {})
+{
+    DialogScript script(answers, picks);
+    if (button)
+        QTest::mouseClick(button, Qt::LeftButton);
+    return script.seen;
+}
+
+inline QStringList texts(const QList<DialogScript::Seen> &seen)
+{
+    QStringList all;
+    for (const DialogScript::Seen &dialog : seen)
+        all << dialog.text;
+    return all;
+}
+
+inline QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 // the shown button of the current screen that reads `text`
 inline QPushButton *screenButton(const QString &text)
