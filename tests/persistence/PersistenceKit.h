@@ -63,16 +63,7 @@ inline bool defaultsPresent()
 // a new game on the default world, as the new game screen starts one
 inline void startDefaultGame()
 {
-    GameManager::NewGame choices;
-    choices.firstName = "Ken";
-    choices.lastName = "Saito";
-    choices.region = "East Asia";
-    choices.nation = "Japan";
-    choices.gymName = "Tiger Den";
-    choices.gymStyle = "Muay Thai";
-    choices.primaryColour = "Gold";
-    choices.secondaryColour = "Black";
-    GameManager::instance().startNewGame(choices, DefaultWorld::read());
+    DefaultWorld::startPlainGame();
 }
 
 // Runs a test in a folder of its own, so that saves and hand-made default files stay out of the
