@@ -36,6 +36,15 @@ QPixmap GamePictures::portrait(const QStringList &colours, const QList<int> &ima
                     withHair("head_", head, hair, head == 1 || head == 8), withHair("face_", face, hair, face == 1)});
 }
 
+QPixmap GamePictures::bodyStatus(int head, int body, int arms, int legs)
+{
+    const auto part = [](const char *name, int code) {
+        return QString("./Resources/Body/%1_status_%2.png").arg(name).arg(code);
+    };
+    return layered("./Resources/Body/portraitbg.jpg",
+                   {part("head", head), part("body", body), part("arms", arms), part("legs", legs)});
+}
+
 QPixmap GamePictures::gymEmblem(const QString &shortsColour, const QString &trimColour)
 {
     return layered("./Resources/Shorts/gym_shorts_" + shortsColour + ".jpg",

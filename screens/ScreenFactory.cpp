@@ -6,9 +6,9 @@
 #include "screens/Module_Profile.h"
 #include "screens/Module_SaveLoad.h"
 #include "screens/Module_Training.h"
+#include "screens/Module_UserEvents.h"
 #include "shell/TopMenuBar.h"
 #include "world/Entity_Event.h"
-#include "world/GameManager.h"
 
 #include <array>
 
@@ -52,10 +52,5 @@ QWidget *ScreenFactory::buildNextDay()
 
 QWidget *ScreenFactory::buildFightNight(const Entity_Event &event)
 {
-    // the fight night screen is still being built; its place names the night
-    auto *night = new Module_Placeholder("Fight Night: " + event.name(), Module_Placeholder::BackToGame);
-    // the two men of a fantasy night stand in the world only while it runs
-    if (event.isFantasyMatch())
-        QObject::connect(night, &QObject::destroyed, [] { GameManager::instance().removeFantasyFighters(); });
-    return night;
+    return new Module_UserEvents(event);
 }

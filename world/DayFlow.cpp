@@ -105,7 +105,7 @@ void DayFlow::fightEvent(Entity_Event event)
             continue;
         }
         lines << outcome.line;
-        lines << advanceTournamentWinner(outcome.advancingId, orgName) + '\n';
+        lines << world.advanceTournamentWinner(outcome.advancingId, orgName) + '\n';
         // the winner's new place may fill a later slot of this very card
         for (const Entity_Event &reread : world.todaysWorldEvents())
             if (reread.name() == eventName) {
@@ -117,11 +117,6 @@ void DayFlow::fightEvent(Entity_Event event)
     printLines(eventName + " event results: ", lines);
     world.storeEventResults(lines, eventName, orgName);
     world.refreshReputations(orgName);
-}
-
-QString DayFlow::advanceTournamentWinner(int winnerId, const QString &orgName)
-{
-    return world.advanceTournamentWinner(winnerId, orgName);
 }
 
 void DayFlow::fighterNews()

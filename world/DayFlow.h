@@ -55,8 +55,6 @@ private:
     void welcomeANewStudent();
     void fightTodaysEvents();
     void fightEvent(Entity_Event event);
-    // the tournament's placement of a winner who fights on, and its news text
-    QString advanceTournamentWinner(int winnerId, const QString &orgName);
     void fighterNews();
     void contractNews();
     void removeExpiredOffers();

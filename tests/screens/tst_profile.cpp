@@ -5,8 +5,8 @@
 #include "fighters/Random.h"
 #include "persistence/FighterExport.h"
 #include "screens/Module_MainMenu.h"
-#include "screens/Module_Placeholder.h"
 #include "screens/Module_Profile.h"
+#include "screens/Module_UserEvents.h"
 #include "screens/ScreenFactory.h"
 #include "shell/TopMenuBar.h"
 
@@ -231,14 +231,18 @@ private slots:
                               "Import Gus Guest? \nHe will immediately fight a fantasy match with Sami Kallio.",
                               "Imported Gus Guest into a fantasy match."}));
         QCOMPARE(seen[2].buttons, QStringList{"Go!"});
-        QVERIFY(qobject_cast<Module_Placeholder *>(ModuleManager::instance().currentModule()));
+        QVERIFY(qobject_cast<Module_UserEvents *>(ModuleManager::instance().currentModule()));
         QVERIFY(!ModuleManager::instance().isTopMenuVisible());
         QCOMPARE(GameManager::instance().amateurById(GameManager::FantasyVisitorId).fullName(), QString("Gus Guest"));
         QCOMPARE(GameManager::instance().amateurById(GameManager::FantasyGymFighterId).fullName(),
                  QString("Sami Kallio"));
 
-        QTest::mouseClick(screenButton("Back"), Qt::LeftButton);
+        // the night is fought to its end, and the user is back on his profile
+        for (int step = 0; step < 3000 && qobject_cast<Module_UserEvents *>(ModuleManager::instance().currentModule());
+             ++step)
+            QTest::mouseClick(screenButton("Next Step"), Qt::LeftButton);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(qobject_cast<Module_Profile *>(ModuleManager::instance().currentModule()));
         QVERIFY(ModuleManager::instance().isTopMenuVisible());
         QCOMPARE(worldBytes(), before);
     }

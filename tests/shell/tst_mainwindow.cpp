@@ -3,7 +3,6 @@
 #include "screens/ScreenFactory.h"
 #include "shell/ModuleManager.h"
 #include "shell/TopMenuBar.h"
-#include "world/Entity_Event.h"
 #include "world/GameManager.h"
 
 #include <QLabel>
@@ -118,11 +117,11 @@ private slots:
         QVERIFY(qobject_cast<Module_MainMenu *>(shell.currentModule()));
         QVERIFY(!shell.isTopMenuVisible());
 
-        // in a running game the fight night's stand-in goes back to the screen last chosen
+        // in a running game a stand-in goes back to the screen last chosen
         shell.showTopMenu();
         shell.topMenu()->changeScreenEvents();
         shell.hideTopMenu();
-        shell.changeModule(shell.screens().fightNight(Entity_Event()));
+        shell.changeModule(shell.screens().button(TopMenuBar::Events));
         menuButton("Back")->click();
         QVERIFY(shell.isTopMenuVisible());
         QCOMPARE(shell.topMenu()->currentScreen(), int(TopMenuBar::Events));

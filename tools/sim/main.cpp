@@ -1,6 +1,7 @@
 // orvane-sim world --days N [--seed S] [--load FILE] [--save FILE] [--check] [--news] [--no-times]
 //                  [--train PLAN[,PLAN...]]
 // orvane-sim matches --count N [--seed S | --real-clock]
+// orvane-sim booked --save FILE [--seed S] [--load FILE] [--days N] [--level L]
 //
 // Starts a new game with a plain manager and gym on the default world, or loads a saved game,
 // and runs N days of the game's own day flow without a screen. It prints the figures of each game
@@ -14,9 +15,12 @@
 // The matches mode draws N pairs from the rosters of the new game's world, each man against
 // another of his organisation, fights them as the day flow does, and prints how they ended, the
 // rounds and steps of a match and the matches per second; --seed makes the draws repeat, the
-// real clock is the game's own. Both modes must run where the game runs, beside the Resources
-// tree.
+// real clock is the game's own.
+//
+// The booked mode makes a game in which a man of the user fights tonight, and saves it to FILE.
+// All modes must run where the game runs, beside the Resources tree.
 
+#include "BookedNight.h"
 #include "MatchesRun.h"
 #include "TrainingReport.h"
 #include "WorldReport.h"
@@ -53,7 +57,7 @@ const char *usage = "usage: orvane-sim world --days N [--seed S] [--load FILE] [
 
 void printUsage()
 {
-    QTextStream(stderr) << usage << MatchesRun::usage;
+    QTextStream(stderr) << usage << MatchesRun::usage << BookedNight::usage;
 }
 
 bool parse(const QStringList &args, Options &options)
@@ -128,6 +132,37 @@ int fightMatches(const QStringList &args)
     return 0;
 }
 
+// a save in which a man of the user fights tonight
+int bookANight(const QStringList &args)
+{
+    BookedNight::Options options;
+    if (!BookedNight::parse(args, options)) {
+        printUsage();
+        return 2;
+    }
+    if (options.seeded)
+        Random::useTestClock(options.seed);
+    GameManager &world = GameManager::instance();
+    if (options.load.isEmpty()) {
+        if (!defaultWorldHere())
+            return 1;
+        DefaultWorld::startPlainGame();
+    } else if (QString reason; !SaveFile::loadFrom(options.load, &reason)) {
+        QTextStream(stderr) << "cannot load " << options.load << ": " << reason << '\n';
+        return 1;
+    }
+    QStringList report;
+    const bool booked = BookedNight(world).run(options, NameFiles::book(), report);
+    QTextStream(stdout) << report.join('\n') << '\n';
+    if (!booked)
+        return 1;
+    if (QString reason; !SaveFile::saveTo(options.save, &reason)) {
+        QTextStream(stderr) << "cannot save " << options.save << ": " << reason << '\n';
+        return 1;
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -135,6 +170,8 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     if (app.arguments().value(1) == QLatin1String("matches"))
         return fightMatches(app.arguments());
+    if (app.arguments().value(1) == QLatin1String("booked"))
+        return bookANight(app.arguments());
     QTextStream out(stdout);
     Options options;
     if (!parse(app.arguments(), options)) {

@@ -1,0 +1,342 @@
+#include "common/NightWorld.h"
+#include "screens/ScreenTestKit.h"
+
+#include "fighters/MatchStatistics.h"
+#include "screens/CornerPage.h"
+#include "screens/Module_NextDay.h"
+#include "screens/Module_PostEvent.h"
+#include "screens/Module_Profile.h"
+#include "screens/Module_UserEvents.h"
+#include "screens/ScreenFactory.h"
+#include "shell/TopMenuBar.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTextEdit>
+#include <QTimer>
+#include <QtTest>
+
+using namespace ScreenTestKit;
+using namespace NightWorld;
+
+namespace {
+
+ModuleManager &shell()
+{
+    return ModuleManager::instance();
+}
+
+Module_UserEvents *nightScreen()
+{
+    return qobject_cast<Module_UserEvents *>(shell().currentModule());
+}
+
+Module_PostEvent *summaryScreen()
+{
+    return qobject_cast<Module_PostEvent *>(shell().currentModule());
+}
+
+void press(const QString &text)
+{
+    QPushButton *button = screenButton(text);
+    QVERIFY2(button, qPrintable("no button " + text));
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+// the shown, visible parts of the night's screen that a player would look at
+bool shown(const QWidget *widget)
+{
+    return widget && widget->isVisibleTo(shell().currentModule());
+}
+
+} // namespace
+
+class tst_FightNightScreen : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(root.isValid());
+        QDir::setCurrent(root.path());
+        shell().initialize(ScreenFactory::builders());
+    }
+
+    void init()
+    {
+        Random::useTestClock(2024);
+        // the keys reach the game's window when it is the active one, as it is for a player
+        shell().mainWindow()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(shell().mainWindow()));
+    }
+
+    void cleanup()
+    {
+        Random::useRealClock();
+        GameManager::instance().resetWorld();
+        shell().hideTopMenu();
+    }
+
+    // A night played through its widgets as a player plays it: the stranger's match runs by
+    // without a corner, the user's man is tended at every bell, the summary pays the purse and
+    // the level up comes only when the manager's label rose.
+    void aNightPlayedByItsButtons_data()
+    {
+        QTest::addColumn<int>("gymLevel");
+        QTest::addColumn<int>("opponentLevel");
+        QTest::addColumn<int>("reputation");
+        QTest::addColumn<bool>("wins");
+        QTest::addColumn<bool>("levelUp");
+        QTest::newRow("a win that brings a new label: the level up") << 90 << 30 << 95 << true << true;
+        QTest::newRow("a win short of a new label") << 90 << 30 << 30 << true << false;
+        QTest::newRow("a loss, however close the label") << 30 << 90 << 95 << false << false;
+    }
+    void aNightPlayedByItsButtons()
+    {
+        QFETCH(int, gymLevel);
+        QFETCH(int, opponentLevel);
+        QFETCH(int, reputation);
+        QFETCH(bool, wins);
+        QFETCH(bool, levelUp);
+        Setup setup;
+        setup.gymLevel = gymLevel;
+        setup.opponentLevel = opponentLevel;
+        setup.reputation = reputation;
+        // his match goes the distance, so that he needs his corner at every bell
+        setup.unbreakable = true;
+        QVERIFY(load(setup));
+        GameManager &world = GameManager::instance();
+        const int moneyBefore = world.gymRecord().value(Entity_Gym::Money);
+        shell().showTopMenu();
+        shell().startNextDay();
+        QVERIFY(nightScreen());
+        QVERIFY(!shell().isTopMenuVisible());
+        const Module_UserEvents *screen = nightScreen();
+        auto *instructions = screen->findChild<QComboBox *>("instructionBox");
+
+        int corners = 0;
+        int strangersSteps = 0;
+        for (int press = 0; nightScreen() && press < 5000; ++press) {
+            if (screenButton("Tend to Fighter")) {
+                QVERIFY(screen->fightNight().isUserMatch());
+                QTest::mouseClick(screenButton("Tend to Fighter"), Qt::LeftButton);
+                CornerPage *corner = screen->cornerPage();
+                QVERIFY(corner);
+                QCOMPARE(corner->trainerPoints(), setup.cornering);
+                QVERIFY(!corner->observationsBox()->toPlainText().isEmpty());
+                QCOMPARE(corner->statisticsField(0)->text().count('/'), 1);
+                // seven points: five on the wounds and two on water, the third box stays shut
+                corner->careBox(CornerPage::HealWounds)->setValue(5);
+                corner->careBox(CornerPage::ProvideWater)->setValue(3);
+                corner->careBox(CornerPage::Motivate)->setValue(1);
+                QCOMPARE(corner->care(CornerPage::ProvideWater), 2);
+                QCOMPARE(corner->care(CornerPage::Motivate), 0);
+                QCOMPARE(corner->trainerPoints(), 0);
+                QStringList labels;
+                for (const QLabel *label : corner->findChildren<QLabel *>())
+                    labels << label->text();
+                QVERIFY(labels.contains("Trainer Points: 0"));
+                // an order of the corner, then Enter sends him out again
+                QComboBox *strategy = corner->strategyBox();
+                QVERIFY(strategy->count() > 1);
+                strategy->setCurrentIndex(strategy->count() - 1);
+                emit strategy->activated(strategy->count() - 1);
+                QTest::keyClick(shell().mainWindow(), Qt::Key_Return);
+                QVERIFY(!screen->cornerPage());
+                ++corners;
+                continue;
+            }
+            if (screen->fightNight().matchNumber() == 1 && shown(screen->commentaryBox())) {
+                // the stranger's match: nobody to shout at
+                QVERIFY(!shown(instructions));
+                ++strangersSteps;
+            }
+            QPushButton *step = screenButton("Next Step");
+            QVERIFY(step);
+            QTest::mouseClick(step, Qt::LeftButton);
+        }
+        QVERIFY(strangersSteps > 0);
+        QVERIFY(corners >= 1);
+
+        // the summary: what he did, and the purse paid the moment it stands
+        QVERIFY(summaryScreen());
+        QCOMPARE(summaryScreen()->isLevelUpDue(), levelUp);
+        QCOMPARE(world.gymRecord().value(Entity_Gym::Money), moneyBefore + (wins ? 2 : 1) * Purse);
+        const Entity_GymFighter man = world.fighterById(GymId);
+        QCOMPARE(man.number(Entity_Fighter::Wins), wins ? 1 : 0);
+        QCOMPARE(storedResults().size(), 2);
+        QVERIFY(summaryScreen()->statisticsField(0)->text().contains('/'));
+        QCOMPARE(world.bookingsByFighter().value(man.fullName()), QString("N/A - N/A"));
+
+        const QList<int> skillsBefore = world.managerValues();
+        press("Proceed");
+        if (levelUp) {
+            Module_PostEvent *post = summaryScreen();
+            QVERIFY(post && shown(post->levelUpPage()) && !shown(post->summaryPage()));
+            QCOMPARE(post->skillPointsLeft(), Module_PostEvent::LevelUpPoints);
+            // the points must all be spent, and no skill falls below where it stood
+            {
+                DialogScript dialogs({"Back"});
+                press("Proceed");
+                QCOMPARE(dialogs.seen.size(), 1);
+                QCOMPARE(dialogs.seen[0].text, QString("Please use all skill points before proceeding."));
+                QCOMPARE(dialogs.seen[0].buttons, QStringList{"Back"});
+            }
+            QVERIFY(summaryScreen());
+            QSpinBox *cornering = post->skillBox(Entity_Manager::Cornering - Entity_Manager::Punch);
+            QCOMPARE(cornering->minimum(), setup.cornering);
+            cornering->setValue(10);
+            post->skillBox(0)->setValue(setup.skillLevel + 9);
+            QCOMPARE(post->skillBox(0)->value(), setup.skillLevel + 7);
+            QCOMPARE(post->skillPointsLeft(), 0);
+            DialogScript dialogs({"Accept"});
+            press("Proceed");
+            QCOMPARE(dialogs.seen.value(0).text, QString("Are you sure you want to proceed?"));
+            const QList<int> skills = world.managerValues();
+            QCOMPARE(skills[Entity_Manager::Cornering], 10);
+            QCOMPARE(skills[Entity_Manager::Punch], setup.skillLevel + 7);
+            QCOMPARE(skills[Entity_Manager::Kick], skillsBefore[Entity_Manager::Kick]);
+        }
+        // back to the game: with no night left the day goes on
+        QVERIFY(qobject_cast<Module_NextDay *>(shell().currentModule()));
+    }
+
+    // The timer steps as the button does; "Sim to End" runs one stranger's match to its end and
+    // stops, and in the user's match it stops at the next corner.
+    void theTimerStepsAndSimToEndStops()
+    {
+        Setup setup;
+        setup.stayers = true;
+        QVERIFY(load(setup));
+        shell().startNextDay();
+        Module_UserEvents *screen = nightScreen();
+        QVERIFY(screen);
+        QTimer *timer = screen->stageTimer();
+        press("Next Step"); // welcome
+        press("Next Step"); // the first match is announced
+        QVERIFY(!screenButton("Start Timer"));
+        press("Next Step"); // the tale of the tape
+        QVERIFY(shown(screen->findChild<QWidget *>("taleOfTape")));
+        QVERIFY(!shown(screen->commentaryBox()));
+        press("Next Step");
+        QVERIFY(!shown(screen->findChild<QWidget *>("taleOfTape")));
+
+        press("Start Timer");
+        QVERIFY(timer->isActive());
+        QCOMPARE(timer->interval(), Module_UserEvents::StepInterval);
+        QVERIFY(!screenButton("Next Step"));
+        QVERIFY(screenButton("Stop Timer"));
+        // a tick does what a press does: the round begins
+        QTRY_VERIFY_WITH_TIMEOUT(screen->commentaryBox()->toPlainText().contains("Round 1!"), 5000);
+        press("Stop Timer");
+        QVERIFY(!timer->isActive());
+        QVERIFY(screenButton("Next Step"));
+
+        press("Sim to End");
+        QCOMPARE(timer->interval(), Module_UserEvents::SimToEndInterval);
+        QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), 20000);
+        QCOMPARE(screen->fightNight().resultLines().size(), 1);
+        QVERIFY(screenButton("Next Step") && screenButton("Start Timer") && !screenButton("Sim to End"));
+
+        press("Next Step"); // the user's match is announced
+        press("Next Step"); // the tale of the tape
+        press("Next Step");
+        press("Next Step"); // round 1
+        press("Sim to End");
+        QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), 20000);
+        QVERIFY(screenButton("Tend to Fighter"));
+        QVERIFY(!screenButton("Sim to End") && !screenButton("Start Timer"));
+        QCOMPARE(screen->fightNight().roundNumber(), 2);
+    }
+
+    // The keys: Space steps as the button does; Enter leaves the corner.
+    void spaceStepsAndEnterLeavesTheCorner()
+    {
+        Setup setup;
+        setup.stayers = true;
+        setup.strangersFirst = false;
+        QVERIFY(load(setup));
+        shell().startNextDay();
+        Module_UserEvents *screen = nightScreen();
+        QWidget *window = shell().mainWindow();
+        // the welcome, the announcement, the tale of the tape, the ring, the first round
+        for (int i = 0; i < 5; ++i)
+            QTest::keyClick(window, Qt::Key_Space);
+        QVERIFY(screen->commentaryBox()->toPlainText().contains("Round 1!"));
+        for (int i = 0; i < 500 && !screenButton("Tend to Fighter"); ++i)
+            QTest::keyClick(window, Qt::Key_Space);
+        QVERIFY(screenButton("Tend to Fighter"));
+        QTest::keyClick(window, Qt::Key_Space);
+        QVERIFY(screen->cornerPage());
+        // Space does nothing in the corner: the spin boxes may take it
+        QTest::keyClick(window, Qt::Key_Space);
+        QVERIFY(screen->cornerPage());
+        QTest::keyClick(window, Qt::Key_Enter);
+        QVERIFY(!screen->cornerPage());
+        QVERIFY(screen->commentaryBox()->toPlainText().contains("Round 2!"));
+    }
+
+    // The press that knocks a man out ends the match at once: the result stands under the last
+    // exchange, and the clock shows the time of the blow.
+    void aKnockoutEndsTheMatchOnItsPress()
+    {
+        Setup setup;
+        setup.gymLevel = 95;
+        setup.opponentLevel = 5;
+        setup.strangersFirst = false;
+        QVERIFY(load(setup));
+        shell().startNextDay();
+        Module_UserEvents *screen = nightScreen();
+        for (int i = 0; i < 4; ++i)
+            press("Next Step");
+        auto *clock = screen->findChild<QLabel *>("clockLabel");
+        QString clockBefore;
+        while (screen->fightNight().resultLines().isEmpty()) {
+            QVERIFY(!screenButton("Tend to Fighter"));
+            clockBefore = clock->text();
+            press("Next Step");
+        }
+        const QString result = screen->fightNight().resultLines().first();
+        QVERIFY(result.contains(" by KO(") || result.contains(" by TKO("));
+        QVERIFY(result.endsWith(" of Round 1.\n"));
+        QVERIFY(screen->commentaryBox()->toPlainText().contains(result.section(" - ", 1).trimmed()));
+        QCOMPARE(clock->text(), clockBefore);
+        // the card is done: the results are told and the next press leads to the summary
+        QVERIFY(screen->commentaryBox()->toPlainText().contains(NightName + " results:"));
+        QVERIFY(!screenButton("Start Timer") && !screenButton("Sim to End"));
+        press("Next Step");
+        QVERIFY(summaryScreen());
+    }
+
+    // A fantasy match runs like a stranger's match and leaves the world as it found it; the
+    // user comes back to his profile.
+    void aFantasyMatchLeavesTheWorldByteForByte()
+    {
+        QVERIFY(load());
+        GameManager &world = GameManager::instance();
+        const QByteArray before = worldBytes();
+        const Entity_Event fantasy = world.makeFantasyEvent(rosterMan(999, "Visitor", 500, 60, false), 0);
+        shell().changeModule(shell().screens().fightNight(fantasy));
+        Module_UserEvents *screen = nightScreen();
+        QVERIFY(screen);
+        auto *instructions = screen->findChild<QComboBox *>("instructionBox");
+        for (int press = 0; nightScreen() && press < 3000; ++press) {
+            QVERIFY(!screenButton("Tend to Fighter"));
+            QVERIFY(!shown(instructions));
+            QTest::mouseClick(screenButton("Next Step"), Qt::LeftButton);
+        }
+        QVERIFY(qobject_cast<Module_Profile *>(shell().currentModule()));
+        QVERIFY(shell().isTopMenuVisible());
+        QCOMPARE(worldBytes(), before);
+    }
+
+private:
+    QTemporaryDir root;
+};
+
+QTEST_MAIN(tst_FightNightScreen)
+#include "tst_fightnight.moc"
