@@ -1,10 +1,11 @@
 #include "screens/CornerPage.h"
 
-#include "fighters/MatchStatistics.h"
 #include "screens/GamePictures.h"
+#include "screens/ScreenParts.h"
 #include "world/FightNight.h"
 
 #include <QComboBox>
+#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,26 +19,6 @@ namespace {
 constexpr std::array<const char *, CornerPage::CareCount> careLabels{"Heal Wounds", "Provide Water", "Motivate",
                                                                      "Discuss Strategy"};
 constexpr QSize PictureSize(220, 352);
-
-QLabel *heading(const QString &text)
-{
-    auto *label = new QLabel(text);
-    label->setProperty("heading", true);
-    label->setAlignment(Qt::AlignCenter);
-    return label;
-}
-
-// a grid that holds its rows close together on a tan panel
-QWidget *panel(QGridLayout *&grid)
-{
-    auto *box = new QWidget;
-    box->setProperty("panel", true);
-    box->setAttribute(Qt::WA_StyledBackground);
-    grid = new QGridLayout(box);
-    grid->setSpacing(0);
-    grid->setContentsMargins(8, 6, 8, 6);
-    return box;
-}
 
 } // namespace
 
@@ -67,7 +48,7 @@ CornerPage::CornerPage(FightNight &night, QPushButton *stepButton, QWidget *pare
     // the codes of the stamina, then of head, body, arms and legs
     picture->setPixmap(GamePictures::bodyStatus(codes.value(1), codes.value(2), codes.value(3), codes.value(4)));
     auto *status = new QVBoxLayout;
-    status->addWidget(heading("Current Status"));
+    status->addWidget(ScreenParts::heading("Current Status"));
     status->addWidget(picture);
     status->addStretch(1);
     grid->addLayout(status, 1, 1, 5, 2);
@@ -77,30 +58,16 @@ CornerPage::CornerPage(FightNight &night, QPushButton *stepButton, QWidget *pare
     for (const QString &line : texts)
         observations->append(line);
     auto *seen = new QVBoxLayout;
-    seen->addWidget(heading("Observations"));
+    seen->addWidget(ScreenParts::heading("Observations"));
     seen->addWidget(observations, 1);
     grid->addLayout(seen, 1, 3, 5, 2);
 
     // what he landed of what he threw
-    QGridLayout *statisticsGrid = nullptr;
-    QWidget *statisticsPanel = panel(statisticsGrid);
-    statisticsGrid->addWidget(heading("Fighter Statistics (Landed/Thrown)"), 0, 0, 1, 2);
-    const QList<int> numbers = night.userStatus();
-    for (int row = 0; row < MatchStatistics::rowCount(); ++row) {
-        auto *field = new QLineEdit(MatchStatistics::cell(numbers, row));
-        field->setReadOnly(true);
-        field->setFocusPolicy(Qt::NoFocus);
-        field->setAlignment(Qt::AlignCenter);
-        field->setFixedWidth(80);
-        statistics << field;
-        statisticsGrid->addWidget(new QLabel(MatchStatistics::label(row)), row + 1, 0);
-        statisticsGrid->addWidget(field, row + 1, 1);
-    }
-    grid->addWidget(statisticsPanel, 1, 5, 3, 2);
+    grid->addWidget(ScreenParts::statisticsPanel(night.userStatus(), statistics), 1, 5, 3, 2);
 
     // the order of the corner and the care
-    QGridLayout *careGrid = nullptr;
-    QWidget *carePanel = panel(careGrid);
+    QFrame *carePanel = ScreenParts::panel();
+    QGridLayout *careGrid = ScreenParts::closeGrid(carePanel);
     strategy->setObjectName("strategyBox");
     careGrid->addWidget(strategy, 0, 0, 1, 2);
     careGrid->addWidget(pointsLabel, 1, 0, 1, 2);

@@ -8,6 +8,7 @@
 #include "screens/GamePictures.h"
 #include "screens/Module_MainMenu.h"
 #include "screens/ScreenFactory.h"
+#include "screens/ScreenParts.h"
 #include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
@@ -45,14 +46,6 @@ QStringList signatureStyles()
 }
 
 const QString nationFileName = QStringLiteral("./Resources/Defaults/default_nations.dat");
-
-QLabel *headingLabel(const QString &text)
-{
-    auto *label = new QLabel(text);
-    label->setProperty("heading", true);
-    label->setAlignment(Qt::AlignCenter);
-    return label;
-}
 
 QComboBox *comboBox(const QString &name, const QStringList &items = {})
 {
@@ -158,7 +151,7 @@ QWidget *Module_NewGame::buildManagerPage()
     personRow->addLayout(person);
     personRow->addStretch(1);
 
-    skillPointsLabel = headingLabel("Skill Points: " + QString::number(skillPoints));
+    skillPointsLabel = ScreenParts::heading("Skill Points: " + QString::number(skillPoints));
     skillPointsLabel->setObjectName("skillPointsLabel");
 
     auto *panels = new QHBoxLayout;
@@ -172,7 +165,7 @@ QWidget *Module_NewGame::buildManagerPage()
     gymCreationButton = pushButton("Advance to Gym Creation", 280);
 
     column->addStretch(1);
-    column->addWidget(headingLabel("Create Your Manager"));
+    column->addWidget(ScreenParts::heading("Create Your Manager"));
     column->addSpacing(15);
     column->addLayout(personRow);
     column->addSpacing(15);
@@ -253,7 +246,7 @@ QWidget *Module_NewGame::buildGymPage()
     gameButton = pushButton("Advance to Game", 280);
 
     column->addStretch(1);
-    column->addWidget(headingLabel("Create Your Gym"));
+    column->addWidget(ScreenParts::heading("Create Your Gym"));
     column->addSpacing(30);
     column->addLayout(gymRow);
     column->addSpacing(40);

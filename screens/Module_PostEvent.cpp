@@ -1,12 +1,13 @@
 #include "screens/Module_PostEvent.h"
 
-#include "fighters/MatchStatistics.h"
 #include "screens/GamePictures.h"
+#include "screens/ScreenParts.h"
 #include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
 #include "world/GameManager.h"
 
+#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,24 +21,6 @@ namespace {
 constexpr QSize PortraitSize(220, 352);
 // the manager's sheet stands in blocks of three skills, two blocks to a row
 constexpr int SkillsPerBlock = 3;
-
-QLabel *heading(const QString &text)
-{
-    auto *label = new QLabel(text);
-    label->setProperty("heading", true);
-    label->setAlignment(Qt::AlignCenter);
-    return label;
-}
-
-QWidget *panel(QGridLayout *&grid)
-{
-    auto *box = new QWidget;
-    box->setProperty("panel", true);
-    box->setAttribute(Qt::WA_StyledBackground);
-    grid = new QGridLayout(box);
-    grid->setContentsMargins(12, 8, 12, 8);
-    return box;
-}
 
 // a page whose block stays in the middle of the screen
 QGridLayout *centredPage(QWidget *page)
@@ -98,25 +81,11 @@ QWidget *Module_PostEvent::buildSummary()
     entry->setWordWrap(true);
     entry->setAlignment(Qt::AlignCenter);
     entry->setMinimumHeight(40);
-    grid->addWidget(heading("Match Summary"), 1, 1, 1, 2);
+    grid->addWidget(ScreenParts::heading("Match Summary"), 1, 1, 1, 2);
     grid->addWidget(entry, 2, 1, 1, 2);
     grid->addWidget(portrait, 3, 1, Qt::AlignCenter);
 
-    QGridLayout *numbers = nullptr;
-    QWidget *statisticsPanel = panel(numbers);
-    numbers->setVerticalSpacing(2);
-    numbers->addWidget(heading("Fighter Statistics (Landed/Thrown)"), 0, 0, 1, 2);
-    for (int row = 0; row < MatchStatistics::rowCount(); ++row) {
-        auto *field = new QLineEdit(MatchStatistics::cell(statistics, row));
-        field->setReadOnly(true);
-        field->setFocusPolicy(Qt::NoFocus);
-        field->setAlignment(Qt::AlignCenter);
-        field->setFixedWidth(90);
-        statisticsFields << field;
-        numbers->addWidget(new QLabel(MatchStatistics::label(row)), row + 1, 0);
-        numbers->addWidget(field, row + 1, 1);
-    }
-    grid->addWidget(statisticsPanel, 3, 2, Qt::AlignCenter);
+    grid->addWidget(ScreenParts::statisticsPanel(statistics, statisticsFields), 3, 2, Qt::AlignCenter);
     return page;
 }
 
@@ -125,11 +94,12 @@ QWidget *Module_PostEvent::buildLevelUp()
     auto *page = new QWidget;
     page->setObjectName("levelUpPage");
     QGridLayout *grid = centredPage(page);
-    grid->addWidget(heading("Reputation Level Up!"), 1, 1);
+    grid->addWidget(ScreenParts::heading("Reputation Level Up!"), 1, 1);
 
     // the manager's sheet, each skill in a box that starts at his value and cannot go below it
-    QGridLayout *sheet = nullptr;
-    QWidget *sheetPanel = panel(sheet);
+    QFrame *sheetPanel = ScreenParts::panel();
+    auto *sheet = new QGridLayout(sheetPanel);
+    sheet->setContentsMargins(12, 8, 12, 8);
     sheet->setHorizontalSpacing(12);
     const QList<int> values = GameManager::instance().managerValues();
     QList<int> start;

@@ -3,6 +3,7 @@
 #include "fighters/Entity_Fighter.h"
 #include "persistence/FighterExport.h"
 #include "screens/GamePictures.h"
+#include "screens/ScreenParts.h"
 #include "shell/GameDialog.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
@@ -41,27 +42,11 @@ constexpr int StyleReadFrom = 10;
 
 const QString noFighterYet = QStringLiteral("To get a fighter, you need to pick one of your students to train.");
 
-QLineEdit *readOnlyField(const QString &name)
-{
-    auto *field = new QLineEdit;
-    field->setObjectName(name);
-    field->setReadOnly(true);
-    field->setFocusPolicy(Qt::NoFocus);
-    return field;
-}
-
 QLabel *subheading(const QString &text)
 {
     auto *label = new QLabel(text);
     label->setProperty("subheading", true);
     return label;
-}
-
-QFrame *panel()
-{
-    auto *frame = new QFrame;
-    frame->setProperty("panel", true);
-    return frame;
 }
 
 QPushButton *pushButton(const QString &text)
@@ -155,10 +140,10 @@ QWidget *Module_Profile::buildManagerPage()
     page->setObjectName("managerPage");
 
     // who he is and what his fighters did under him
-    QFrame *person = panel();
+    QFrame *person = ScreenParts::panel();
     auto *personGrid = new QGridLayout(person);
     for (int field = 0; field < ManagerFieldCount; ++field) {
-        managerFields[field] = readOnlyField(QString("managerField%1").arg(field));
+        managerFields[field] = ScreenParts::readOnlyField(QString("managerField%1").arg(field));
         personGrid->addWidget(new QLabel(managerLabels[field]), field, 0);
         personGrid->addWidget(managerFields[field], field, 1);
     }
@@ -173,7 +158,7 @@ QWidget *Module_Profile::buildManagerPage()
 
     // the skills in blocks of three, two blocks to a row; a block that goes on from the one before
     // (the abilities) shows no second heading
-    QFrame *skills = panel();
+    QFrame *skills = ScreenParts::panel();
     auto *skillGrid = new QGridLayout(skills);
     constexpr int SkillsPerBlock = 3;
     for (int skill = 0; skill < Entity_Manager::SkillCount; ++skill) {
@@ -183,7 +168,7 @@ QWidget *Module_Profile::buildManagerPage()
         const QString heading = Entity_Manager::skillHeading(skill);
         if (skill % SkillsPerBlock == 0 && heading != Entity_Manager::skillHeading(skill - 1))
             skillGrid->addWidget(subheading(heading), top, left, 1, 2, Qt::AlignLeft | Qt::AlignBottom);
-        skillFields[skill] = readOnlyField(QString("skillField%1").arg(skill));
+        skillFields[skill] = ScreenParts::readOnlyField(QString("skillField%1").arg(skill));
         skillFields[skill]->setFixedWidth(44);
         skillFields[skill]->setAlignment(Qt::AlignCenter);
         const int row = top + 1 + skill % SkillsPerBlock;
@@ -198,7 +183,7 @@ QWidget *Module_Profile::buildManagerPage()
         skillGrid->setRowMinimumHeight(blockRow * (SkillsPerBlock + 1), 44);
     skillGrid->setRowStretch(skillGrid->rowCount(), 1);
 
-    QFrame *titles = panel();
+    QFrame *titles = ScreenParts::panel();
     auto *titleColumn = new QVBoxLayout(titles);
     managerTitles = new QListWidget;
     managerTitles->setObjectName("managerTitles");
@@ -261,7 +246,7 @@ void Module_Profile::changeToManagerScreen()
 
 QWidget *Module_Profile::buildRatingsPanel()
 {
-    QFrame *ratings = panel();
+    QFrame *ratings = ScreenParts::panel();
     ratings->setObjectName("ratingsPanel");
     auto *grid = new QGridLayout(ratings);
     grid->setHorizontalSpacing(6);
@@ -279,7 +264,7 @@ QWidget *Module_Profile::buildRatingsPanel()
         const int left = group % GroupsPerRow * 2;
         if (rating % Ratings::GroupSize == 0)
             grid->addWidget(subheading(Ratings::groupHeading(group)), top, left, 1, 2);
-        QLineEdit *field = readOnlyField(QString("ratingField%1").arg(rating));
+        QLineEdit *field = ScreenParts::readOnlyField(QString("ratingField%1").arg(rating));
         field->setFixedWidth(36);
         field->setAlignment(Qt::AlignCenter);
         ratingFields[rating] = field;
@@ -312,12 +297,12 @@ QWidget *Module_Profile::buildFighterPage()
     looks->addStretch(1);
 
     // who he is, his record, and his bio
-    QFrame *person = panel();
+    QFrame *person = ScreenParts::panel();
     auto *personGrid = new QGridLayout(person);
     personGrid->setVerticalSpacing(3);
     personGrid->setContentsMargins(8, 6, 8, 6);
     for (int field = 0; field < FieldCount; ++field) {
-        fighterFields[field] = readOnlyField(QString("fighterField%1").arg(field));
+        fighterFields[field] = ScreenParts::readOnlyField(QString("fighterField%1").arg(field));
         // the three numbers of his record stand side by side
         if (field >= Wins)
             continue;

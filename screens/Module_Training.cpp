@@ -6,6 +6,7 @@
 #include "fighters/Ratings.h"
 #include "fighters/TrainingPlan.h"
 #include "screens/GamePictures.h"
+#include "screens/ScreenParts.h"
 #include "shell/GameDialog.h"
 #include "shell/StyleSheetFile.h"
 #include "world/GameManager.h"
@@ -40,21 +41,6 @@ const QString PlainSmallText = QStringLiteral("font-size: 8pt; font-weight: norm
 QString dollars(int amount)
 {
     return "$" + QLocale(QLocale::English).toString(amount);
-}
-
-QFrame *panel()
-{
-    auto *frame = new QFrame;
-    frame->setProperty("panel", true);
-    return frame;
-}
-
-QLineEdit *readOnlyField()
-{
-    auto *field = new QLineEdit;
-    field->setReadOnly(true);
-    field->setFocusPolicy(Qt::NoFocus);
-    return field;
 }
 
 QPixmap trainingIcon(int plan, int size)
@@ -106,14 +92,14 @@ QWidget *Module_Training::buildGymPage()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
 
-    QFrame *facts = panel();
+    QFrame *facts = ScreenParts::panel();
     facts->setFixedWidth(290);
     auto *grid = new QGridLayout(facts);
     grid->setVerticalSpacing(6);
-    gymNameField = readOnlyField();
-    gymStyleField = readOnlyField();
-    gymPrestigeField = readOnlyField();
-    moneyField = readOnlyField();
+    gymNameField = ScreenParts::readOnlyField();
+    gymStyleField = ScreenParts::readOnlyField();
+    gymPrestigeField = ScreenParts::readOnlyField();
+    moneyField = ScreenParts::readOnlyField();
     moneyField->setObjectName("moneyField");
     const QList<QPair<QString, QLineEdit *>> fields{{"Gym Name:", gymNameField},
                                                     {"Gym Style:", gymStyleField},
@@ -159,7 +145,7 @@ QWidget *Module_Training::buildGymPage()
 
 QWidget *Module_Training::buildEquipmentPanel()
 {
-    QFrame *equipment = panel();
+    QFrame *equipment = ScreenParts::panel();
     auto *grid = new QGridLayout(equipment);
     grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(4);
@@ -257,17 +243,17 @@ QWidget *Module_Training::buildTrainingPage()
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(10);
 
-    QFrame *fighter = panel();
+    QFrame *fighter = ScreenParts::panel();
     fighter->setFixedWidth(220);
     auto *fighterLayout = new QGridLayout(fighter);
     fighterLayout->setVerticalSpacing(5);
     fighterBox = new QComboBox;
     fighterBox->setObjectName("fighterBox");
     fighterLayout->addWidget(fighterBox, 0, 0, 1, 2);
-    fighterNameField = readOnlyField();
-    fightingStyleField = readOnlyField();
-    learningSpeedField = readOnlyField();
-    fatigueField = readOnlyField();
+    fighterNameField = ScreenParts::readOnlyField();
+    fightingStyleField = ScreenParts::readOnlyField();
+    learningSpeedField = ScreenParts::readOnlyField();
+    fatigueField = ScreenParts::readOnlyField();
     fighterNameField->setObjectName("fighterNameField");
     learningSpeedField->setObjectName("learningSpeedField");
     fatigueField->setObjectName("fatigueField");
@@ -289,7 +275,7 @@ QWidget *Module_Training::buildTrainingPage()
     backButton->setMinimumHeight(36);
     fighterLayout->addWidget(backButton, row++, 0, 1, 2);
 
-    QFrame *log = panel();
+    QFrame *log = ScreenParts::panel();
     auto *logLayout = new QVBoxLayout(log);
     logLayout->addWidget(new QLabel("Training This Month:"));
     logText = new QTextEdit;
@@ -312,7 +298,7 @@ QWidget *Module_Training::buildTrainingPage()
 
 QWidget *Module_Training::buildPlanPanel()
 {
-    QFrame *plans = panel();
+    QFrame *plans = ScreenParts::panel();
     auto *layout = new QVBoxLayout(plans);
     layout->setSpacing(4);
     layout->addWidget(new QLabel("Today's Training Plan:"));
@@ -346,7 +332,7 @@ QWidget *Module_Training::buildPlanPanel()
 
 QWidget *Module_Training::buildSkillPanel()
 {
-    QFrame *skills = panel();
+    QFrame *skills = ScreenParts::panel();
     auto *grid = new QGridLayout(skills);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(0);

@@ -3,12 +3,14 @@
 #include "screens/CornerPage.h"
 #include "screens/GamePictures.h"
 #include "screens/Module_PostEvent.h"
+#include "screens/ScreenParts.h"
 #include "shell/ModuleManager.h"
 #include "shell/StyleSheetFile.h"
 #include "shell/TopMenuBar.h"
 #include "world/GameManager.h"
 
 #include <QComboBox>
+#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -211,15 +213,12 @@ QWidget *Module_UserEvents::buildBottomPanel()
 
 QWidget *Module_UserEvents::buildTaleOfTape()
 {
-    auto *panel = new QWidget;
+    QFrame *panel = ScreenParts::panel();
     panel->setObjectName("taleOfTape");
-    panel->setProperty("panel", true);
-    panel->setAttribute(Qt::WA_StyledBackground);
     auto *grid = new QGridLayout(panel);
     grid->setSpacing(0);
     grid->setContentsMargins(24, 14, 24, 18);
-    auto *title = centred("Tale of the Tape");
-    title->setProperty("heading", true);
+    QLabel *title = ScreenParts::heading("Tale of the Tape");
     title->setMinimumHeight(44);
     grid->addWidget(title, 0, 0, 1, 2);
     for (int man = 0; man < 2; ++man)
