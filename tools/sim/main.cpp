@@ -107,6 +107,22 @@ bool defaultWorldHere()
     return false;
 }
 
+// a plain new game on the default world, or the saved game at `load`
+bool openWorld(const QString &load)
+{
+    if (load.isEmpty()) {
+        if (!defaultWorldHere())
+            return false;
+        DefaultWorld::startPlainGame();
+        return true;
+    }
+    QString reason;
+    if (SaveFile::loadFrom(load, &reason))
+        return true;
+    QTextStream(stderr) << "cannot load " << load << ": " << reason << '\n';
+    return false;
+}
+
 int fightMatches(const QStringList &args)
 {
     MatchesRun::Options options;
@@ -116,10 +132,9 @@ int fightMatches(const QStringList &args)
     }
     if (options.seeded)
         Random::useTestClock(options.seed);
-    if (!defaultWorldHere())
+    if (!openWorld({}))
         return 1;
     GameManager &world = GameManager::instance();
-    DefaultWorld::startPlainGame();
     MatchesRun run(world);
     if (!run.hasPairs()) {
         QTextStream(stderr) << "no roster of the default world holds two men\n";
@@ -142,15 +157,9 @@ int bookANight(const QStringList &args)
     }
     if (options.seeded)
         Random::useTestClock(options.seed);
-    GameManager &world = GameManager::instance();
-    if (options.load.isEmpty()) {
-        if (!defaultWorldHere())
-            return 1;
-        DefaultWorld::startPlainGame();
-    } else if (QString reason; !SaveFile::loadFrom(options.load, &reason)) {
-        QTextStream(stderr) << "cannot load " << options.load << ": " << reason << '\n';
+    if (!openWorld(options.load))
         return 1;
-    }
+    GameManager &world = GameManager::instance();
     QStringList report;
     const bool booked = BookedNight(world).run(options, NameFiles::book(), report);
     QTextStream(stdout) << report.join('\n') << '\n';
@@ -181,18 +190,9 @@ int main(int argc, char *argv[])
     if (options.seeded)
         Random::useTestClock(options.seed);
 
+    if (!openWorld(options.load))
+        return 1;
     GameManager &world = GameManager::instance();
-    if (options.load.isEmpty()) {
-        if (!defaultWorldHere())
-            return 1;
-        DefaultWorld::startPlainGame();
-    } else {
-        QString reason;
-        if (!SaveFile::loadFrom(options.load, &reason)) {
-            QTextStream(stderr) << "cannot load " << options.load << ": " << reason << '\n';
-            return 1;
-        }
-    }
     out << "World of " << world.getCurrentDate().toString(Qt::TextDate) << ", " << options.days << " days"
         << (options.seeded ? QString(", seed %1").arg(options.seed) : QString()) << '\n';
 
