@@ -83,7 +83,7 @@ QPushButton *button(QWidget *screen, const QString &text)
 }
 
 // the screen of a night of one match, up to the first step of the first round
-Module_UserEvents *openNight(const Entity_Event &night, int pressesBefore, QList<qint64> *slowest = nullptr)
+Module_UserEvents *openNight(const Entity_Event &night, int pressesBefore, QList<QList<qint64>> *times = nullptr)
 {
     ModuleManager &shell = ModuleManager::instance();
     auto *screen = new Module_UserEvents(night);
@@ -93,8 +93,8 @@ Module_UserEvents *openNight(const Entity_Event &night, int pressesBefore, QList
         clock.start();
         button(screen, "Next Step")->click();
         shell.mainWindow()->repaint();
-        if (slowest)
-            (*slowest)[i] = std::max((*slowest)[i], clock.nsecsElapsed());
+        if (times)
+            (*times)[i] << clock.nsecsElapsed();
     }
     return screen;
 }
@@ -135,12 +135,12 @@ int main(int argc, char *argv[])
     // the welcome, the announcement, the tale of the tape, the ring, and the first round begins
     constexpr int PressesToTheFirstStep = 5;
     qint64 slowestStep = 0;
-    // the slowest of each press before the first step: welcome, announcement, tape, ring, round
-    QList<qint64> slowestPress(PressesToTheFirstStep, 0);
+    // every press before the first step: welcome, announcement, tape, ring, round
+    QList<QList<qint64>> pressTimes(PressesToTheFirstStep);
     qint64 allSteps = 0;
     int steps = 0;
     for (int n = 0; n < options.matches; ++n) {
-        Module_UserEvents *screen = openNight(drawNight(n), PressesToTheFirstStep, &slowestPress);
+        Module_UserEvents *screen = openNight(drawNight(n), PressesToTheFirstStep, &pressTimes);
         while (screen->fightNight().resultLines().isEmpty()) {
             QElapsedTimer clock;
             clock.start();
@@ -156,10 +156,14 @@ int main(int argc, char *argv[])
         << QString::number(allSteps / 1e6 / std::max(steps, 1), 'f', 2) << " ms, slowest "
         << QString::number(slowestStep / 1e6, 'f', 2) << " ms\n";
     const char *stages[PressesToTheFirstStep] = {"welcome", "announcement", "tale of the tape", "ring", "round"};
-    out << "Slowest press before the steps:";
-    for (int i = 0; i < PressesToTheFirstStep; ++i)
-        out << ' ' << stages[i] << ' ' << QString::number(slowestPress[i] / 1e6, 'f', 2) << " ms"
+    out << "Presses before the steps, median / slowest:";
+    for (int i = 0; i < PressesToTheFirstStep; ++i) {
+        QList<qint64> &times = pressTimes[i];
+        std::sort(times.begin(), times.end());
+        out << ' ' << stages[i] << ' ' << QString::number(times.value(times.size() / 2) / 1e6, 'f', 2) << " / "
+            << QString::number(times.value(times.size() - 1) / 1e6, 'f', 2) << " ms"
             << (i + 1 < PressesToTheFirstStep ? ',' : '\n');
+    }
 
     out << "Sim to End, the commentary drawn as it runs:\n";
     for (int n = 0; n < options.sims; ++n) {
