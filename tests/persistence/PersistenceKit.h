@@ -7,7 +7,6 @@
 #include "world/GameManager.h"
 #include "world/WorldState.h"
 
-#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -55,19 +54,7 @@ template <typename Value> QByteArray streamed(const Value &value)
     return bytes;
 }
 
-inline bool defaultsPresent()
-{
-    return QFile::exists("./Resources/Defaults/default_nations.dat");
-}
-
-// a new game on the default world, as the new game screen starts one
-inline void startDefaultGame()
-{
-    DefaultWorld::startPlainGame();
-}
-
-// Runs a test in a folder of its own, so that saves and hand-made default files stay out of the
-// folder the game runs in; the old working folder comes back at the end.
+// a test in a folder of its own, so that saves and hand-made files stay out of the game's
 class WorkingFolder
 {
 public:

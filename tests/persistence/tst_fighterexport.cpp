@@ -111,8 +111,6 @@ private slots:
         QTest::addColumn<int>("index");
         QTest::newRow("a free agent, first of the gym") << "Free Agent" << 0 << 0;
         QTest::newRow("a man under contract, second of the gym") << "GKO" << 3 << 1;
-        // one-off fights without a contract count his fights on below 0
-        QTest::newRow("a free agent who fought on without a contract") << "Free Agent" << -4 << 0;
     }
 
     void exportAndImportGiveTheSameManWithANewId()
@@ -173,7 +171,6 @@ private slots:
 
         QTest::newRow("an empty file") << QByteArray() << "The file is empty.";
         QTest::newRow("cut inside the strings") << whole.left(stringsEnd - 5) << "ends before";
-        QTest::newRow("cut inside the last title") << whole.chopped(3) << "ends before";
         QTest::newRow("one byte more") << whole + QByteArray(1, '\0') << "more than one";
         QTest::newRow("a saved game") << worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1200).bytes() << "";
         QTest::newRow("eleven strings") << streamedParts(good.stringList().mid(1), good.integerList()) << "damaged";
@@ -199,14 +196,12 @@ private slots:
         QVERIFY(writeBytes(FighterExport::pathOf("Stranger"), bytes));
         const QByteArray before = worldBytes();
 
-        QString told;
-        QVERIFY(!FighterExport::importFreeAgent("Stranger", &told));
-        QVERIFY2(told.contains(reason) && !told.isEmpty(), qPrintable(told));
-        QCOMPARE(worldBytes(), before);
-
+        QString told, toldFantasy;
         Entity_Event night;
-        QVERIFY(!FighterExport::importFantasyMatch("Stranger", 0, night, &told));
-        QVERIFY2(told.contains(reason) && !told.isEmpty(), qPrintable(told));
+        QVERIFY(!FighterExport::importFreeAgent("Stranger", &told));
+        QVERIFY(!FighterExport::importFantasyMatch("Stranger", 0, night, &toldFantasy));
+        for (const QString &message : {told, toldFantasy})
+            QVERIFY2(message.contains(reason) && !message.isEmpty(), qPrintable(message));
         QCOMPARE(worldBytes(), before);
         QCOMPARE(night.matchCount(), 0);
     }
@@ -218,17 +213,11 @@ private slots:
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("last");
         QTest::addColumn<bool>("written");
-        QTest::newRow("a plain name") << "Reto"
-                                      << "Meyer" << true;
         QTest::newRow("accents") << QString("Ümit") << QString("Öztürk") << true;
-        QTest::newRow("a slash") << "Reto"
-                                 << "../../Escaped" << false;
-        QTest::newRow("a backslash") << "Reto"
-                                     << "..\\Escaped" << false;
-        QTest::newRow("two dots first") << ".."
-                                        << "Escaped" << false;
-        QTest::newRow("a control character") << "Reto"
-                                             << "Me\tyer" << false;
+        QTest::newRow("a slash") << QString("Reto") << QString("../../Escaped") << false;
+        QTest::newRow("a backslash") << QString("Reto") << QString("..\\Escaped") << false;
+        QTest::newRow("two dots first") << QString("..") << QString("Escaped") << false;
+        QTest::newRow("a control character") << QString("Reto") << QString("Me\tyer") << false;
         QTest::newRow("longer than a file name") << QString(200, 'A') << QString(60, 'B') << false;
     }
 
@@ -246,13 +235,10 @@ private slots:
 
         QString reason;
         QCOMPARE(FighterExport::write(0, &reason), written);
-        if (written) {
-            QVERIFY(QFileInfo(exports + first + " " + last + ".dat").isFile());
-            QCOMPARE(FighterExport::exportFiles(), QStringList{first + " " + last});
-        } else {
-            QVERIFY(!reason.isEmpty());
+        QCOMPARE(reason.isEmpty(), written);
+        QCOMPARE(FighterExport::exportFiles(), written ? QStringList{first + " " + last} : QStringList());
+        if (!written)
             QCOMPARE(filesAround(), before);
-        }
     }
 
 private:
