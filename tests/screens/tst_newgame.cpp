@@ -16,23 +16,12 @@ using namespace ScreenTestKit;
 
 namespace {
 
-const QList<QStringList> nationLists{{"Canada", "United States"},
-                                     {"Argentina", "Brazil", "Mexico"},
-                                     {"England", "France"},
-                                     {"Russia"},
-                                     {"Ghana"},
-                                     {"Egypt", "Israel"},
-                                     {"Japan"},
-                                     {"Australia", "Thailand"}};
+const QList<QStringList> nationLists{{"Canada"}, {"Brazil"}, {"England", "France"}, {"Russia"}, {"Ghana"},
+                                     {"Egypt"},  {"Japan"},  {"Thailand"}};
 
 QSpinBox *skillBox(int index)
 {
     return screenWidget<QSpinBox>(QString("skillBox%1").arg(index));
-}
-
-QString pointsText()
-{
-    return screenWidget<QLabel>("skillPointsLabel")->text();
 }
 
 // the player's pick, with the box's own signal of a choice
@@ -106,7 +95,7 @@ private slots:
 
         QTEST(skillBox(box)->value(), "value");
         QTEST(skillBox(box)->maximum(), "maximum");
-        QCOMPARE(pointsText(), "Skill Points: " + QString::number(points));
+        QCOMPARE(screenWidget<QLabel>("skillPointsLabel")->text(), "Skill Points: " + QString::number(points));
         if (capped >= 0)
             QCOMPARE(skillBox(capped)->maximum(), points == 0 ? 0 : 10);
         int sum = 0;
@@ -138,7 +127,6 @@ private slots:
         GameManager::instance().managerPack(strings, values, titles);
         QCOMPARE(strings, QStringList({"Mara", "Kovac", "Western Europe", "France", "Unknown"}));
         QCOMPARE(values, QList<int>{0} + skills + QList<int>(4, 0));
-        QVERIFY(titles.isEmpty());
         GameManager::instance().gymPack(strings, values, ledger);
         QCOMPARE(strings, QStringList({"Golden Fist", "Karate", "Teal", "Gold", "Unknown"}));
         QList<int> gymValues(Entity_Gym::ValueCount, 0);
@@ -150,9 +138,7 @@ private slots:
 
         // the game opens on the profile, with the top menu over it
         QVERIFY(ModuleManager::instance().isTopMenuVisible());
-        std::unique_ptr<QWidget> profile(ScreenFactory::build(TopMenuBar::Profile));
-        QCOMPARE(ModuleManager::instance().currentModule()->metaObject()->className(),
-                 profile->metaObject()->className());
+        QCOMPARE(ModuleManager::instance().topMenu()->currentScreen(), int(TopMenuBar::Profile));
         ModuleManager::instance().hideTopMenu();
         GameManager::instance().resetWorld();
     }

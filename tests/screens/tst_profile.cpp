@@ -138,13 +138,9 @@ private slots:
         QVERIFY(gymWorld({gymMan("Reto", "Meyer", 1101, "GKO")}).load());
         openFighterPage();
         const QString path = "./Resources/Exports/Reto Meyer.dat";
-        QCOMPARE(texts(press(screenButton("Export Fighter"), {"Cancel"})),
-                 QStringList{"Are you sure you want to export Reto Meyer?"});
-        QVERIFY(!QFile::exists(path));
         QCOMPARE(texts(press(screenButton("Export Fighter"), {"Accept", "Accept"})),
                  QStringList({"Are you sure you want to export Reto Meyer?", "Fighter exported to " + path + "."}));
         const QByteArray first = fileBytes(path);
-        QVERIFY(!first.isEmpty());
 
         GameManager::instance().setFighterBio(0, "A new chapter.");
         QCOMPARE(texts(press(screenButton("Export Fighter"), {"Cancel"})),
@@ -231,19 +227,16 @@ private slots:
                               "Import Gus Guest? \nHe will immediately fight a fantasy match with Sami Kallio.",
                               "Imported Gus Guest into a fantasy match."}));
         QCOMPARE(seen[2].buttons, QStringList{"Go!"});
-        QVERIFY(qobject_cast<Module_UserEvents *>(ModuleManager::instance().currentModule()));
         QVERIFY(!ModuleManager::instance().isTopMenuVisible());
         QCOMPARE(GameManager::instance().amateurById(GameManager::FantasyVisitorId).fullName(), QString("Gus Guest"));
-        QCOMPARE(GameManager::instance().amateurById(GameManager::FantasyGymFighterId).fullName(),
-                 QString("Sami Kallio"));
 
         // the night is fought to its end, and the user is back on his profile
         for (int step = 0; step < 3000 && qobject_cast<Module_UserEvents *>(ModuleManager::instance().currentModule());
-             ++step)
+             ++step) {
+            QVERIFY(!screenButton("Tend to Fighter")); // nobody's corner in a fantasy match
             QTest::mouseClick(screenButton("Next Step"), Qt::LeftButton);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(qobject_cast<Module_Profile *>(ModuleManager::instance().currentModule()));
-        QVERIFY(ModuleManager::instance().isTopMenuVisible());
+        }
+        QVERIFY(profile() && ModuleManager::instance().isTopMenuVisible());
         QCOMPARE(worldBytes(), before);
     }
 
