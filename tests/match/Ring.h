@@ -101,6 +101,17 @@ inline int allLanded(const Entity_MatchFighter &man)
     return sum;
 }
 
+// `hits` in `trials` come to `share`: exactly at 0 and 1, within `slack` between, and for a share
+// below 0 now and then but neither never nor always
+inline bool comesTo(int hits, int trials, double share, double slack = 0.03)
+{
+    if (share < 0)
+        return hits > 0 && hits < trials;
+    if (share == 0.0 || share == 1.0)
+        return hits == int(share * trials);
+    return qAbs(hits / double(trials) - share) < slack;
+}
+
 // the highest of the three judges' numbers of the round for each man
 struct JudgesHigh {
     int one = 0;

@@ -14,13 +14,19 @@ namespace {
 
 enum Part { Head, Body, Arms, Legs };
 
-constexpr int Plenty = 100000;
+constexpr int Plenty = 100000, Now = -1; // Now: now and then
 
-// how much of each part and of stamina a man has lost since he was made unbreakable
-QList<int> losses(const Entity_MatchFighter &man)
+// fighter two, made unbreakable and fresh, takes a blow of `damage` in `state`; what he lost of
+// each part and of stamina
+QList<int> takes(MatchState *state, int strike, int damage)
 {
-    return {Plenty - man.getHeadHealth(), Plenty - man.getBodyHealth(), Plenty - man.getArmsHealth(),
-            Plenty - man.getLegsHealth(), Plenty - man.getStamina()};
+    unbreakable(two());
+    two().setStamina(Plenty);
+    two().setState(state);
+    two().receiveEvent(strike, damage);
+    two().releaseRetiredStates();
+    return {Plenty - two().getHeadHealth(), Plenty - two().getBodyHealth(), Plenty - two().getArmsHealth(),
+            Plenty - two().getLegsHealth(), Plenty - two().getStamina()};
 }
 
 // a man whose composure roll always holds (99) or always fails (0)
@@ -31,6 +37,104 @@ Entity_MatchFighter composedMan(bool composed, int headDurability)
         man(1, "Puncher", 0,
             {{F::FightIQ, sense}, {F::Awareness, sense}, {F::Discipline, sense}, {F::HeadDurability, headDurability}}));
 }
+
+struct Blow {
+    const char *name;
+    bool composed;
+    int headDurability, headHealth, damage;
+    double outcome; // how often he falls, or how often the tactic follows
+    int tactic = 0;
+};
+
+// The head check: a man falls when the blow beats his headDurability plus, composed, his whole
+// headHealth, rattled a quarter of it, give or take up to 15; a head at 0 adds nothing, a beaten
+// head counts against a rattled man.
+const Blow headChecks[] = {
+    {"composed: 15 short of his head stands", true, 0, 100, 85, 0},
+    {"composed: 14 short falls now and then", true, 0, 100, 86, Now},
+    {"composed: 15 over stands now and then", true, 0, 100, 115, Now},
+    {"composed: 16 over falls", true, 0, 100, 116, 1},
+    {"rattled: a quarter, 15 short stands", false, 0, 100, 10, 0},
+    {"rattled: a quarter, 16 over falls", false, 0, 100, 41, 1},
+    {"the jaw counts whole: short", true, 60, 100, 145, 0},
+    {"the jaw counts whole: over", true, 60, 100, 176, 1},
+    {"an empty head adds nothing: short", false, 50, 0, 35, 0},
+    {"an empty head adds nothing: over", false, 50, 0, 66, 1},
+    {"a beaten head drops a rattled man from nothing", false, 50, -100, 0, 1},
+    {"a composed man keeps his jaw", true, 50, -100, 34, 0},
+};
+
+// What a blow does to a man's mind: a rattled man may be stunned (6) unless his jaw holds; a
+// beaten head leaves a rattled man dazed (5); a blow beyond 10 + u20 dazes whoever stands.
+const Blow mindBlows[] = {
+    {"a rattled glass jaw is stunned", false, 0, 10000, 5, 0.99, 6},
+    {"a rattled iron jaw is not", false, 99, 10000, 5, 1, 0},
+    {"a composed man keeps his head", true, 0, 10000, 5, 1, 0},
+    {"a beaten rattled head is dazed", false, 99, -100, 0, 1, 5},
+    {"a blow of 10 never dazes", true, 99, 10000, 10, 1, 0},
+    {"a blow of 30 always does", true, 99, 10000, 30, 1, 5},
+};
+
+// The body goes down when the blow beats what is left of it plus twice the bodyDurability and the
+// willpower, give or take 15; arms and legs only once they are spent, on the same test.
+// (bodyDurability 10, willpower 5: a body of 200 that takes d stands on 225 - d.)
+struct BelowTheHead {
+    const char *name;
+    Part part;
+    int partHealth, bodyHealth, damage, falls;
+};
+
+const BelowTheHead belowTheHead[] = {
+    {"the body, 15 short", Body, 200, 200, 105, 0},
+    {"the body, 15 over stands now and then", Body, 200, 200, 120, Now},
+    {"the body, 16 over", Body, 200, 200, 121, 1},
+    {"a beaten body falls from a touch", Body, -1000, -1000, 0, 1},
+    {"a blow below 0 is never tested", Body, -1000, -1000, -1, 0},
+    {"arms with 1 left hold", Arms, 11, -1000, 10, 0},
+    {"spent arms drop a beaten body", Arms, 10, -1000, 10, 1},
+    {"spent arms on a sound body hold", Arms, 10, 200, 10, 0},
+    {"legs with 1 left hold", Legs, 11, -1000, 10, 0},
+    {"spent legs drop a beaten body", Legs, 10, -1000, 10, 1},
+};
+
+// A blocked blow costs its damage in stamina and half as much again on the arms, on the legs for a
+// leg block; the guard's speed and technique take more off it.
+struct Block {
+    const char *name;
+    State_Gen_BlkDmg::Guard guard;
+    F::Number speed, technique;
+    Part part;
+};
+
+const Block blocks[] = {
+    {"high punch block", State_Gen_BlkDmg::HeadPunch, F::PunchGuardSpeed, F::PunchGuardTechnique, Arms},
+    {"high kick block", State_Gen_BlkDmg::HeadKick, F::KickGuardSpeed, F::KickGuardTechnique, Arms},
+    {"body block", State_Gen_BlkDmg::Body, F::BodyGuardSpeed, F::BodyGuardTechnique, Arms},
+    {"leg block on the legs", State_Gen_BlkDmg::Leg, F::LegGuardSpeed, F::LegGuardTechnique, Legs},
+    {"clinch block", State_Gen_BlkDmg::Clinch, F::ClinchGuardSpeed, F::ClinchGuardTechnique, Arms},
+};
+
+// the first row that fits sets the band; a roll of u100 against resilience decides most rows (a
+// resilience of -1 loses every roll, one of 100 wins every roll)
+struct Band {
+    const char *name;
+    int resilience, sixtieths, band; // stamina in sixtieths of the ceiling
+};
+
+const Band bands[] = {
+    {"below a fifth, a tiring man", -1, 11, 5},
+    {"a fifth", -1, 12, 4},
+    {"below a third", -1, 19, 4},
+    {"a third", -1, 20, 3},
+    {"below half", -1, 29, 3},
+    {"half", -1, 30, 2},
+    {"below two thirds", -1, 39, 2},
+    {"two thirds", -1, 40, 1},
+    {"spent, a tough man", 100, 5, 1},
+    {"beyond twice the ceiling, a tough man", 100, 121, 0},
+    {"twice the ceiling is not beyond it", 100, 120, 3},
+    {"beyond twice the ceiling, a weak roll keeps the band", -1, 125, 3},
+};
 
 } // namespace
 
@@ -49,22 +153,19 @@ private slots:
         // jab, hook, cross, uppercut, low, mid, high and front kick, knee, elbow, dirty boxing, body punch
         const Part parts[] = {Head, Head, Head, Head, Legs, Body, Head, Body, Body, Head, Body, Body};
         quietAttacker(man(2, "Puncher", 0));
-        for (int i = 0; i < 12 * 50; ++i) {
-            const int strike = EvJab + i % 12;
-            unbreakable(two());
-            two().setStamina(Plenty);
-            two().setState(new State_Gen_FullDmg(two()));
-            two().receiveEvent(strike, 20);
+        for (int strike = EvJab; strike <= EvBodyPunch; ++strike) {
             QList<int> expected(5, 0);
             const Part part = parts[strike - EvJab];
             expected[part] = part == Head ? 20 : 30;
             expected[4] = 20;
-            QCOMPARE(losses(two()), expected);
+            for (int i = 0; i < 20; ++i)
+                QCOMPARE(takes(new State_Gen_FullDmg(two()), strike, 20), expected);
         }
     }
 
     // What a man takes off a clean blow of 100: (conditioning / 10 + d10 + resilience / 10 + d10)
-    // over (d10 - durability + 100) / 5 + 1. Of 99 each: 6 to 38 off; of durability 80: 2 to 7.
+    // over (d10 - durability + 100) / 5 + 1. Of 99 each: 6 to 38 off; of durability 80: 2 to 7. A
+    // blow he absorbs whole hurts nothing.
     void aToughManAbsorbs_data()
     {
         QTest::addColumn<int>("durability");
@@ -82,160 +183,68 @@ private slots:
         quietAttacker(man(2, "Puncher", 99, {{F::Durability, durability}}));
         int seenLow = Plenty, seenHigh = 0;
         for (int i = 0; i < 5000; ++i) {
-            unbreakable(two());
-            two().setStamina(Plenty);
-            two().setState(new State_Gen_FullDmg(two()));
-            two().receiveEvent(EvJab, 100);
-            const int taken = losses(two())[Head];
-            QCOMPARE(losses(two())[4], taken);
-            seenLow = qMin(seenLow, taken);
-            seenHigh = qMax(seenHigh, taken);
-            two().releaseRetiredStates();
+            const QList<int> lost = takes(new State_Gen_FullDmg(two()), EvJab, 100);
+            QCOMPARE(lost[4], lost[Head]);
+            seenLow = qMin(seenLow, lost[Head]);
+            seenHigh = qMax(seenHigh, lost[Head]);
         }
         QCOMPARE(seenLow, lowest);
         QVERIFY2(seenHigh <= highest && (durability < 99 || seenHigh == highest),
                  qPrintable(QString::number(seenHigh)));
-
-        // a blow he absorbs whole hurts nothing
-        unbreakable(two());
-        two().setStamina(Plenty);
-        two().setState(new State_Gen_FullDmg(two()));
-        two().receiveEvent(EvMidKick, 1);
-        QCOMPARE(losses(two()), QList<int>(5, 0));
+        QCOMPARE(takes(new State_Gen_FullDmg(two()), EvMidKick, 1), QList<int>(5, 0));
     }
 
-    // A blocked blow costs its damage in stamina and half as much again on the arms, on the legs
-    // for a leg block. A man of all 0 takes 0 to 4 off it; the guard of the block takes more.
-    void aBlockedBlow_data()
-    {
-        QTest::addColumn<int>("guard");
-        QTest::addColumn<int>("guardSpeed");
-        QTest::addColumn<int>("guardTechnique");
-        QTest::addColumn<int>("part");
-        QTest::newRow("high punch block")
-            << int(State_Gen_BlkDmg::HeadPunch) << int(F::PunchGuardSpeed) << int(F::PunchGuardTechnique) << int(Arms);
-        QTest::newRow("high kick block") << int(State_Gen_BlkDmg::HeadKick) << int(F::KickGuardSpeed)
-                                         << int(F::KickGuardTechnique) << int(Arms);
-        QTest::newRow("body block") << int(State_Gen_BlkDmg::Body) << int(F::BodyGuardSpeed)
-                                    << int(F::BodyGuardTechnique) << int(Arms);
-        QTest::newRow("leg block on the legs")
-            << int(State_Gen_BlkDmg::Leg) << int(F::LegGuardSpeed) << int(F::LegGuardTechnique) << int(Legs);
-        QTest::newRow("clinch block") << int(State_Gen_BlkDmg::Clinch) << int(F::ClinchGuardSpeed)
-                                      << int(F::ClinchGuardTechnique) << int(Arms);
-    }
+    // a man of all 0 takes 0 to 4 off a blow of 20, a guard of 99 2 to 6: (9 + 2d10 + 9 + d10) over 7 to 9
+    void aBlockedBlow_data() { TableRows::add(blocks); }
 
     void aBlockedBlow()
     {
-        QFETCH(int, guard);
-        QFETCH(int, guardSpeed);
-        QFETCH(int, guardTechnique);
-        QFETCH(int, part);
+        const Block &row = TableRows::current(blocks);
         for (bool guarded : {false, true}) {
-            Entity_Fighter record = man(2, "Puncher", 0);
-            if (guarded) {
-                record.setNumber(F::Number(guardSpeed), 99);
-                record.setNumber(F::Number(guardTechnique), 99);
-            }
-            quietAttacker(record);
+            quietAttacker(man(2, "Puncher", 0, {{row.speed, guarded ? 99 : 0}, {row.technique, guarded ? 99 : 0}}));
             int highest = 0;
             for (int i = 0; i < 300; ++i) {
-                unbreakable(two());
-                two().setStamina(Plenty);
-                two().setState(new State_Gen_BlkDmg(two(), State_Gen_BlkDmg::Guard(guard)));
-                two().receiveEvent(EvJab, 20);
-                const QList<int> lost = losses(two());
+                const QList<int> lost = takes(new State_Gen_BlkDmg(two(), row.guard), EvJab, 20);
                 const int damage = lost[4];
                 QList<int> expected(5, 0);
-                expected[part] = damage + damage / 2;
+                expected[row.part] = damage + damage / 2;
                 expected[4] = damage;
                 QCOMPARE(lost, expected);
                 QVERIFY(damage >= (guarded ? 14 : 16) && damage <= 20);
                 highest = qMax(highest, damage);
-                two().releaseRetiredStates();
             }
-            // a guard of 99 takes 2 to 6 off: (9 + 2d10 + 9 + d10) over 7 to 9
             QCOMPARE(highest, guarded ? 18 : 20);
         }
     }
 
-    // The head check: a man falls when the blow beats his headDurability plus, composed, his
-    // whole headHealth, rattled a quarter of it, give or take up to 15; a head at 0 adds nothing,
-    // a beaten head counts against a rattled man.
-    void headCheck_data()
-    {
-        QTest::addColumn<bool>("composed");
-        QTest::addColumn<int>("headDurability");
-        QTest::addColumn<int>("headHealth");
-        QTest::addColumn<int>("damage");
-        QTest::addColumn<int>("falls"); // 0 never, 1 always, -1 now and then
-
-        QTest::newRow("composed: 15 short of his head stands") << true << 0 << 100 << 85 << 0;
-        QTest::newRow("composed: 14 short falls now and then") << true << 0 << 100 << 86 << -1;
-        QTest::newRow("composed: 15 over stands now and then") << true << 0 << 100 << 115 << -1;
-        QTest::newRow("composed: 16 over falls") << true << 0 << 100 << 116 << 1;
-        QTest::newRow("rattled: a quarter, 15 short stands") << false << 0 << 100 << 10 << 0;
-        QTest::newRow("rattled: a quarter, 16 over falls") << false << 0 << 100 << 41 << 1;
-        QTest::newRow("the jaw counts whole: short") << true << 60 << 100 << 145 << 0;
-        QTest::newRow("the jaw counts whole: over") << true << 60 << 100 << 176 << 1;
-        QTest::newRow("an empty head adds nothing: short") << false << 50 << 0 << 35 << 0;
-        QTest::newRow("an empty head adds nothing: over") << false << 50 << 0 << 66 << 1;
-        QTest::newRow("a beaten head drops a rattled man from nothing") << false << 50 << -100 << 0 << 1;
-        QTest::newRow("a composed man keeps his jaw") << true << 50 << -100 << 34 << 0;
-    }
+    void headCheck_data() { TableRows::add(headChecks); }
 
     void headCheck()
     {
-        QFETCH(bool, composed);
-        QFETCH(int, headDurability);
-        QFETCH(int, headHealth);
-        QFETCH(int, damage);
-        QFETCH(int, falls);
-        Entity_MatchFighter fighter = composedMan(composed, headDurability);
+        const Blow &row = TableRows::current(headChecks);
+        Entity_MatchFighter fighter = composedMan(row.composed, row.headDurability);
         int fell = 0;
         for (int i = 0; i < 1000; ++i) {
-            fighter.setHealths(headHealth, 100, 100, 100);
-            fell += fighter.headCheck(damage) ? 1 : 0;
+            fighter.setHealths(row.headHealth, 100, 100, 100);
+            fell += fighter.headCheck(row.damage) ? 1 : 0;
         }
-        QVERIFY2(falls < 0 ? fell > 0 && fell < 1000 : fell == 1000 * falls, qPrintable(QString::number(fell)));
+        QVERIFY2(comesTo(fell, 1000, row.outcome), qPrintable(QString::number(fell)));
     }
 
-    // What a blow does to a man's mind: a rattled man may be stunned (6) unless his jaw holds;
-    // a beaten head leaves a rattled man dazed (5); a blow of more than 29 dazes whoever stands.
-    void dazedAndStunned_data()
-    {
-        QTest::addColumn<bool>("composed");
-        QTest::addColumn<int>("headDurability");
-        QTest::addColumn<int>("headHealth");
-        QTest::addColumn<int>("damage");
-        QTest::addColumn<int>("tactic");
-        QTest::addColumn<double>("share");
-
-        QTest::newRow("a rattled glass jaw is stunned") << false << 0 << 10000 << 5 << 6 << 0.99;
-        QTest::newRow("a rattled iron jaw is not") << false << 99 << 10000 << 5 << 0 << 1.0;
-        QTest::newRow("a composed man keeps his head") << true << 0 << 10000 << 5 << 0 << 1.0;
-        QTest::newRow("a beaten rattled head is dazed") << false << 99 << -100 << 0 << 5 << 1.0;
-        QTest::newRow("a blow of 10 never dazes") << true << 99 << 10000 << 10 << 0 << 1.0;
-        QTest::newRow("a blow of 30 always does") << true << 99 << 10000 << 30 << 5 << 1.0;
-    }
+    void dazedAndStunned_data() { TableRows::add(mindBlows); }
 
     void dazedAndStunned()
     {
-        QFETCH(bool, composed);
-        QFETCH(int, headDurability);
-        QFETCH(int, headHealth);
-        QFETCH(int, damage);
-        QFETCH(int, tactic);
-        QFETCH(double, share);
-        Entity_MatchFighter fighter = composedMan(composed, headDurability);
-        const int trials = 3000;
+        const Blow &row = TableRows::current(mindBlows);
+        Entity_MatchFighter fighter = composedMan(row.composed, row.headDurability);
         int hits = 0;
-        for (int i = 0; i < trials; ++i) {
-            fighter.setHealths(headHealth + damage, 100, 100, 100);
+        for (int i = 0; i < 3000; ++i) {
+            fighter.setHealths(row.headHealth + row.damage, 100, 100, 100);
             fighter.setTactic(0);
-            fighter.hitHead(damage);
-            hits += fighter.getTactic() == tactic ? 1 : 0;
+            fighter.hitHead(row.damage);
+            hits += fighter.getTactic() == row.tactic ? 1 : 0;
         }
-        QVERIFY2(qAbs(hits / double(trials) - share) < 0.03, qPrintable(QString::number(hits)));
+        QVERIFY2(comesTo(hits, 3000, row.outcome), qPrintable(QString::number(hits)));
     }
 
     // A man who falls from a blow to the head is out when u100 beats his headDurability.
@@ -253,119 +262,67 @@ private slots:
         QFETCH(int, headDurability);
         QFETCH(double, share);
         Entity_MatchFighter fighter = composedMan(false, headDurability);
-        const int trials = 4000;
         int knockouts = 0;
-        for (int i = 0; i < trials; ++i) {
+        for (int i = 0; i < 4000; ++i) {
             fighter.setHealths(-10000, 100, 100, 100);
             const int result = fighter.hitHead(0);
             QVERIFY(result == MatchCodes::KnockedDown || result == MatchCodes::KnockedOut);
             knockouts += result == MatchCodes::KnockedOut ? 1 : 0;
         }
-        if (share == 0.0)
-            QCOMPARE(knockouts, 0);
-        else
-            QVERIFY2(qAbs(knockouts / double(trials) - share) < 0.025, qPrintable(QString::number(knockouts)));
+        QVERIFY2(comesTo(knockouts, 4000, share, 0.025), qPrintable(QString::number(knockouts)));
     }
 
-    // The body goes down when the blow beats what is left of it plus twice the bodyDurability and
-    // the willpower, give or take 15; arms and legs only once they are spent, on the same test.
-    // (bodyDurability 10, willpower 5: a body of 200 that takes d stands on 225 - d.)
-    void aBlowBelowTheHead_data()
-    {
-        QTest::addColumn<int>("part");
-        QTest::addColumn<int>("partHealth");
-        QTest::addColumn<int>("bodyHealth");
-        QTest::addColumn<int>("damage");
-        QTest::addColumn<int>("falls"); // 0 never, 1 always, -1 now and then
-
-        QTest::newRow("the body, 15 short") << int(Body) << 200 << 200 << 105 << 0;
-        QTest::newRow("the body, 15 over stands now and then") << int(Body) << 200 << 200 << 120 << -1;
-        QTest::newRow("the body, 16 over") << int(Body) << 200 << 200 << 121 << 1;
-        QTest::newRow("a beaten body falls from a touch") << int(Body) << -1000 << -1000 << 0 << 1;
-        QTest::newRow("a blow below 0 is never tested") << int(Body) << -1000 << -1000 << -1 << 0;
-        QTest::newRow("arms with 1 left hold") << int(Arms) << 11 << -1000 << 10 << 0;
-        QTest::newRow("spent arms drop a beaten body") << int(Arms) << 10 << -1000 << 10 << 1;
-        QTest::newRow("spent arms on a sound body hold") << int(Arms) << 10 << 200 << 10 << 0;
-        QTest::newRow("legs with 1 left hold") << int(Legs) << 11 << -1000 << 10 << 0;
-        QTest::newRow("spent legs drop a beaten body") << int(Legs) << 10 << -1000 << 10 << 1;
-    }
+    void aBlowBelowTheHead_data() { TableRows::add(belowTheHead); }
 
     void aBlowBelowTheHead()
     {
-        QFETCH(int, part);
-        QFETCH(int, partHealth);
-        QFETCH(int, bodyHealth);
-        QFETCH(int, damage);
-        QFETCH(int, falls);
+        const BelowTheHead &row = TableRows::current(belowTheHead);
         Entity_MatchFighter fighter(man(1, "Puncher", 0, {{F::BodyDurability, 10}, {F::Willpower, 5}}));
         int fell = 0;
         for (int i = 0; i < 1000; ++i) {
-            fighter.setHealths(100, bodyHealth, part == Arms ? partHealth : 100, part == Legs ? partHealth : 100);
-            const int result = part == Body   ? fighter.hitBody(damage)
-                               : part == Arms ? fighter.hitArms(damage)
-                                              : fighter.hitLegs(damage);
+            fighter.setHealths(100, row.bodyHealth, row.part == Arms ? row.partHealth : 100,
+                               row.part == Legs ? row.partHealth : 100);
+            const int result = row.part == Body   ? fighter.hitBody(row.damage)
+                               : row.part == Arms ? fighter.hitArms(row.damage)
+                                                  : fighter.hitLegs(row.damage);
             QVERIFY(result == 3 || result == MatchCodes::KnockedDown);
             fell += result == MatchCodes::KnockedDown ? 1 : 0;
         }
-        QVERIFY2(falls < 0 ? fell > 0 && fell < 1000 : fell == 1000 * falls, qPrintable(QString::number(fell)));
+        QVERIFY2(comesTo(fell, 1000, row.falls), qPrintable(QString::number(fell)));
     }
 
-    // the first row that fits sets the band; a roll of u100 against resilience decides most rows
-    void staminaBands_data()
-    {
-        QTest::addColumn<int>("resilience");
-        QTest::addColumn<int>("staminaShare"); // in sixtieths of the ceiling
-        QTest::addColumn<int>("band");
-        // a resilience of -1 loses every roll, one of 100 wins every roll
-        QTest::newRow("below a fifth, a tiring man") << -1 << 11 << 5;
-        QTest::newRow("a fifth") << -1 << 12 << 4;
-        QTest::newRow("below a third") << -1 << 19 << 4;
-        QTest::newRow("a third") << -1 << 20 << 3;
-        QTest::newRow("below half") << -1 << 29 << 3;
-        QTest::newRow("half") << -1 << 30 << 2;
-        QTest::newRow("below two thirds") << -1 << 39 << 2;
-        QTest::newRow("two thirds") << -1 << 40 << 1;
-        QTest::newRow("spent, a tough man") << 100 << 5 << 1;
-        QTest::newRow("beyond twice the ceiling, a tough man") << 100 << 121 << 0;
-        QTest::newRow("twice the ceiling is not beyond it") << 100 << 120 << 3;
-        QTest::newRow("beyond twice the ceiling, a weak roll keeps the band") << -1 << 125 << 3;
-    }
+    void staminaBands_data() { TableRows::add(bands); }
 
     void staminaBands()
     {
-        QFETCH(int, resilience);
-        QFETCH(int, staminaShare);
-        QFETCH(int, band);
+        const Band &row = TableRows::current(bands);
         // a ceiling of 2 * (4 * 60) = 480, so a sixtieth is 8
-        Entity_MatchFighter fighter(man(1, "Puncher", 60, {{F::Resilience, resilience}}));
+        Entity_MatchFighter fighter(man(1, "Puncher", 60, {{F::Resilience, row.resilience}}));
         fighter.prepareForMatch();
         QCOMPARE(fighter.getMaxStamina(), 480);
         for (int i = 0; i < 50; ++i) {
             fighter.setStaminaBand(3);
-            fighter.setStamina(8 * staminaShare + 1);
+            fighter.setStamina(8 * row.sixtieths + 1);
             fighter.changeStamina(-1);
-            QCOMPARE(fighter.getStaminaBand(), band);
+            QCOMPARE(fighter.getStaminaBand(), row.band);
         }
         fighter.changeStamina(-100000);
         QCOMPARE(fighter.getStamina(), 0);
     }
 
     // The count: the man down holds the attacker's role and is counted once a step. He can rise
-    // from four; a man who can't is out at ten. Rising costs stamina by his bodyDurability.
+    // from four, which costs him 10 stamina at a bodyDurability of 0; a man who can't is out at ten.
     void theCount_data()
     {
         QTest::addColumn<bool>("beaten");
-        QTest::addColumn<int>("steps");
-        QTest::newRow("a sound man rises at four") << false << 4;
-        QTest::newRow("a beaten body is counted out at ten") << true << 10;
+        QTest::newRow("a sound man rises at four") << false;
+        QTest::newRow("a beaten body is counted out at ten") << true;
     }
 
     void theCount()
     {
         QFETCH(bool, beaten);
-        QFETCH(int, steps);
         for (int i = 0; i < 100; ++i) {
-            // bodyDurability 0 makes rising cost 10
             start(man(1, "Puncher", beaten ? 0 : 99, {{F::BodyDurability, 0}}), man(2, "Puncher", 50));
             if (beaten)
                 one().setHealths(100, -1000, 100, 100);
@@ -378,18 +335,14 @@ private slots:
                 over = match().step();
                 ++counted;
             }
-            QCOMPARE(counted, steps);
+            QCOMPARE(counted, beaten ? 10 : 4);
             QCOMPARE(over, beaten);
-            if (beaten) {
-                QCOMPARE(match().getLoser(), &one());
-                QCOMPARE(one().getActionCode(), int(MatchCodes::KnockedOut));
-                QCOMPARE(one().getStamina(), 1000);
-            } else {
-                QCOMPARE(match().getAttacker(), &two());
-                QCOMPARE(two().stateName(), QStringLiteral("State_Atk_Out"));
-                QCOMPARE(one().stateName(), QStringLiteral("State_Def_Out"));
-                QCOMPARE(one().getStamina(), 990);
-            }
+            QCOMPARE(one().getStamina(), beaten ? 1000 : 990);
+            QCOMPARE(match().getAttacker() == &two() && two().stateName() == "State_Atk_Out" &&
+                         one().stateName() == "State_Def_Out",
+                     !beaten);
+            if (beaten)
+                QVERIFY(match().getLoser() == &one() && one().getActionCode() == MatchCodes::KnockedOut);
         }
     }
 

@@ -68,6 +68,39 @@ const Contest contests[] = {
     {"the highest value is not enough", "Puncher", Out, In, 596, 0.0, EvJab},
 };
 
+struct Counter {
+    const char *name, *style;
+    int range, drive;
+    bool beaten;
+    int strike, attacker; // strike -1: no counter from here
+};
+
+const Counter counters[] = {
+    {"a Puncher jabs at long range", "Puncher", Out, 0, false, EvJab, 1},
+    {"a Kicker front-kicks", "Kicker", Out, 0, false, EvFrontKick, 1},
+    {"an uppercut in the pocket", "Outfighter", In, 0, false, EvUppercut, 1},
+    {"a knee in the clinch", "Clincher", Clinch, 0, false, EvKnee, 1},
+    {"a driven man takes the initiative back", "Puncher", Out, 99, false, EvJab, 2},
+    {"no range, no strike, the points all the same", "Puncher", 4, 0, false, -1, 1},
+    {"a beaten head goes down", "Puncher", Out, 0, true, EvJab, 2},
+};
+
+// return fire: the shots on an odd and on an even d20, and the part the strike lands on
+struct Return {
+    const char *name;
+    int strike;
+    const char *style;
+    int punchPower, oddShot, evenShot, part; // part: 0 head, 1 body, 2 legs
+};
+
+const Return returns[] = {
+    {"a Kicker answers a jab to the head with a high kick", EvJab, "Kicker", 99, EvHighKick, EvHighKick, 0},
+    {"a Tactician answers a mid kick to the body with a jab", EvMidKick, "Tactician", 0, EvJab, EvJab, 1},
+    {"an Outfighter answers a low kick to the legs with a knee or a cross", EvLowKick, "Outfighter", 50, EvKnee,
+     EvCross, 2},
+    {"a Brawler answers a knee with an uppercut or a hook", EvKnee, "Brawler", 99, EvUppercut, EvHook, 1},
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(const Contest *)
@@ -87,32 +120,25 @@ private slots:
     {
         QTest::addColumn<int>("strike");
         QTest::addColumn<QStringList>("states"); // of block, counter and dodge
-        const QString high = "State_Def_CounterHigh", mid = "State_Def_CounterMid";
-        const QStringList highPunch{"State_Def_BlockHighPunch", high, "State_Def_DodgeHigh"};
-        const QStringList body{"State_Def_BlockMid", mid, "State_Def_DodgeMid"};
-        QTest::newRow("jab") << int(EvJab) << highPunch;
+        QTest::newRow("jab") << int(EvJab) << QStringList{"BlockHighPunch", "CounterHigh", "DodgeHigh"};
         QTest::newRow("low kick is blocked when countered")
-            << int(EvLowKick) << QStringList{"State_Def_BlockLow", "State_Def_BlockLow", "State_Def_DodgeLow"};
-        QTest::newRow("mid kick") << int(EvMidKick) << body;
-        QTest::newRow("high kick") << int(EvHighKick)
-                                   << QStringList{"State_Def_BlockHighKick", high, "State_Def_DodgeHigh"};
-        QTest::newRow("elbow") << int(EvElbow) << QStringList{"State_Def_BlockClinch", high, "State_Def_DodgeClinch"};
-        QTest::newRow("dirty boxing") << int(EvDirtyBox)
-                                      << QStringList{"State_Def_BlockClinch", mid, "State_Def_DodgeClinch"};
+            << int(EvLowKick) << QStringList{"BlockLow", "BlockLow", "DodgeLow"};
+        QTest::newRow("high kick") << int(EvHighKick) << QStringList{"BlockHighKick", "CounterHigh", "DodgeHigh"};
+        QTest::newRow("dirty boxing") << int(EvDirtyBox) << QStringList{"BlockClinch", "CounterMid", "DodgeClinch"};
     }
 
     void choiceOfDefence()
     {
         QFETCH(int, strike);
         QFETCH(QStringList, states);
-        states << "State_Def_ReturnAttack";
+        states << "ReturnAttack";
         for (int choice = 0; choice < 4; ++choice) {
             Entity_Fighter record = man(2, "Puncher", 0);
             for (F::Number part : choiceParts[choice])
                 record.setNumber(part, 50);
             QHash<QString, double> expected;
             for (int other = 0; other < 4; ++other)
-                expected[states[other]] += other == choice ? 7.0 / 15 : 8.0 / 45;
+                expected["State_Def_" + states[other]] += other == choice ? 7.0 / 15 : 8.0 / 45;
             const QHash<QString, int> seen = answersTo(record, strike, 1500);
             QCOMPARE(seen.size(), expected.size());
             for (auto it = seen.cbegin(); it != seen.cend(); ++it)
@@ -122,25 +148,16 @@ private slots:
     }
 
     // a Brawler likes to trade, a Tactician to counter; a man of all 50 weighs the four alike
-    void styleTiltsTheChoice_data()
-    {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QString>("favourite");
-        QTest::newRow("a Brawler fires back") << "Brawler"
-                                              << "State_Def_ReturnAttack";
-        QTest::newRow("a Tactician counters") << "Tactician"
-                                              << "State_Def_CounterHigh";
-    }
-
     void styleTiltsTheChoice()
     {
-        QFETCH(QString, style);
-        QFETCH(QString, favourite);
         const QHash<QString, int> plain = answersTo(man(2, "Puncher", 50), EvJab, 4000);
-        const QHash<QString, int> tilted = answersTo(man(2, style, 50), EvJab, 4000);
-        for (auto it = plain.cbegin(); it != plain.cend(); ++it) {
-            const double shift = (tilted.value(it.key()) - it.value()) / 4000.0;
-            QVERIFY2(it.key() == favourite ? shift > 0.05 : shift < 0.02, qPrintable(it.key()));
+        for (const auto &[style, favourite] :
+             {std::pair{"Brawler", "State_Def_ReturnAttack"}, std::pair{"Tactician", "State_Def_CounterHigh"}}) {
+            const QHash<QString, int> tilted = answersTo(man(2, style, 50), EvJab, 4000);
+            for (auto it = plain.cbegin(); it != plain.cend(); ++it) {
+                const double shift = (tilted.value(it.key()) - it.value()) / 4000.0;
+                QVERIFY2(it.key() == favourite ? shift > 0.05 : shift < 0.02, qPrintable(style + it.key()));
+            }
         }
     }
 
@@ -262,8 +279,7 @@ private slots:
                 QCOMPARE(landed(two(), row->strike), 1);
             firstStrikes += landed(two(), EvJab) + landed(two(), EvCross);
         }
-        QVERIFY2(qAbs(stopped / double(trials) - row->stops) < (row->stops == 0.5 ? 0.04 : 1e-9),
-                 qPrintable(QString::number(stopped)));
+        QVERIFY2(comesTo(stopped, trials, row->stops, 0.04), qPrintable(QString::number(stopped)));
         if (row->strike < 0)
             QVERIFY2(qAbs(firstStrikes / double(stopped) - 0.5) < 0.05, qPrintable(QString::number(firstStrikes)));
     }
@@ -272,31 +288,11 @@ private slots:
     // others, always to the head; it scores 10 and, if it drops him, the knockdown's 35. The
     // countered man takes the initiative back at long range when his combo roll holds; else it goes
     // to the counterer. A man down holds the attacker's role for the count.
-    void counterAttack_data()
-    {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<int>("range");
-        QTest::addColumn<int>("drive");
-        QTest::addColumn<bool>("beaten");
-        QTest::addColumn<int>("strike"); // -1: no counter from here
-        QTest::addColumn<int>("attacker");
-        QTest::newRow("a Puncher jabs at long range") << "Puncher" << Out << 0 << false << int(EvJab) << 1;
-        QTest::newRow("a Kicker front-kicks") << "Kicker" << Out << 0 << false << int(EvFrontKick) << 1;
-        QTest::newRow("an uppercut in the pocket") << "Outfighter" << In << 0 << false << int(EvUppercut) << 1;
-        QTest::newRow("a knee in the clinch") << "Clincher" << Clinch << 0 << false << int(EvKnee) << 1;
-        QTest::newRow("a driven man takes the initiative back") << "Puncher" << Out << 99 << false << int(EvJab) << 2;
-        QTest::newRow("no range, no strike, the points all the same") << "Puncher" << 4 << 0 << false << -1 << 1;
-        QTest::newRow("a beaten head goes down") << "Puncher" << Out << 0 << true << int(EvJab) << 2;
-    }
+    void counterAttack_data() { TableRows::add(counters); }
 
     void counterAttack()
     {
-        QFETCH(QString, style);
-        QFETCH(int, range);
-        QFETCH(int, drive);
-        QFETCH(bool, beaten);
-        QFETCH(int, strike);
-        QFETCH(int, attacker);
+        const auto &[name, style, range, drive, beaten, strike, attacker] = TableRows::current(counters);
         int highestJudge = 0;
         for (int i = 0; i < 2000; ++i) {
             // a counterer of all 99 whose techniques are 0 pays 10 stamina for his strike
@@ -341,30 +337,11 @@ private slots:
     // Return fire: the defender takes the strike where it lands, without the extra half a clean
     // hit does below the head, and fires back his style's shot, worth a tenth of his punchPower
     // and a d10, which the striker takes on the head on the next step without paying stamina.
-    void returnFire_data()
-    {
-        QTest::addColumn<int>("strike");
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<int>("punchPower");
-        QTest::addColumn<QList<int>>("shots"); // on an odd and on an even d20
-        QTest::addColumn<int>("part");         // 0 head, 1 body, 2 legs
-        QTest::newRow("a Kicker answers a jab to the head with a high kick")
-            << int(EvJab) << "Kicker" << 99 << QList<int>{EvHighKick, EvHighKick} << 0;
-        QTest::newRow("a Tactician answers a mid kick to the body with a jab")
-            << int(EvMidKick) << "Tactician" << 0 << QList<int>{EvJab, EvJab} << 1;
-        QTest::newRow("an Outfighter answers a low kick to the legs with a knee or a cross")
-            << int(EvLowKick) << "Outfighter" << 50 << QList<int>{EvKnee, EvCross} << 2;
-        QTest::newRow("a Brawler answers a knee with an uppercut or a hook")
-            << int(EvKnee) << "Brawler" << 99 << QList<int>{EvUppercut, EvHook} << 1;
-    }
+    void returnFire_data() { TableRows::add(returns); }
 
     void returnFire()
     {
-        QFETCH(int, strike);
-        QFETCH(QString, style);
-        QFETCH(int, punchPower);
-        QFETCH(QList<int>, shots);
-        QFETCH(int, part);
+        const auto &[name, strike, style, punchPower, oddShot, evenShot, part] = TableRows::current(returns);
         int odd = 0, highestJudge = 0, lowestBlow = 1000, highestBlow = 0;
         for (int i = 0; i < 400; ++i) {
             // his techniques of 99 make his shot cost nothing
@@ -383,8 +360,8 @@ private slots:
             QVERIFY(losses[part] > 0);
             QCOMPARE(losses[0] + losses[1] + losses[2], 100000 - two().getStamina());
             QCOMPARE(allLanded(two()), 1);
-            odd += landed(two(), shots[0]);
-            QCOMPARE(landed(two(), shots[0]) + (shots[0] != shots[1] ? landed(two(), shots[1]) : 0), 1);
+            odd += landed(two(), oddShot);
+            QCOMPARE(landed(two(), oddShot) + (oddShot != evenShot ? landed(two(), evenShot) : 0), 1);
             highestJudge = qMax(highestJudge, judgesHigh(match().endRoundScores()).two);
 
             // the striker takes the shot on the next step and, with one strike thrown, goes on
@@ -397,7 +374,7 @@ private slots:
         QCOMPARE(highestJudge, 4);
         QCOMPARE(lowestBlow, punchPower / 10 + 1);
         QCOMPARE(highestBlow, punchPower / 10 + 10);
-        if (shots[0] != shots[1])
+        if (oddShot != evenShot)
             QVERIFY2(qAbs(odd / 400.0 - 0.5) < 0.08, qPrintable(QString::number(odd)));
     }
 
