@@ -1,7 +1,9 @@
 #pragma once
 
 #include "fighters/StreamForm.h"
+#include "screens/ScreenFactory.h"
 #include "shell/ModuleManager.h"
+#include "shell/TopMenuBar.h"
 #include "world/GameManager.h"
 
 #include <QApplication>
@@ -10,6 +12,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
@@ -111,6 +114,21 @@ inline QPushButton *screenButton(const QString &text)
     return nullptr;
 }
 
+// clicks the shown button of the current screen that reads `text`
+inline void click(const QString &text)
+{
+    QPushButton *button = screenButton(text);
+    QVERIFY2(button, qPrintable("no button " + text));
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+// the screen of the top menu's button, as a player opens it in a running game
+inline void openFromMenu(TopMenuBar::ButtonID screen)
+{
+    ModuleManager::instance().showTopMenu();
+    QTest::mouseClick(ModuleManager::instance().topMenu()->button(screen), Qt::LeftButton);
+}
+
 template <typename T> T *screenWidget(const QString &name)
 {
     return ModuleManager::instance().currentModule()->findChild<T *>(name);
@@ -133,5 +151,29 @@ inline void writeNations(const QList<QStringList> &regions)
     for (const QStringList &nations : regions)
         out << nations;
 }
+
+// The frame of a screen test: the game runs in a folder of its own, and each test leaves the
+// world empty and the top menu hidden.
+class ScreenTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(root.isValid());
+        QDir::setCurrent(root.path());
+        ModuleManager::instance().initialize(ScreenFactory::builders());
+    }
+
+    void cleanup()
+    {
+        GameManager::instance().resetWorld();
+        ModuleManager::instance().hideTopMenu();
+    }
+
+private:
+    QTemporaryDir root;
+};
 
 } // namespace ScreenTestKit

@@ -5,13 +5,11 @@
 #include "screens/Module_NextDay.h"
 #include "screens/Module_PostEvent.h"
 #include "screens/Module_UserEvents.h"
-#include "screens/ScreenFactory.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
@@ -36,13 +34,6 @@ Module_PostEvent *summaryScreen()
     return qobject_cast<Module_PostEvent *>(shell().currentModule());
 }
 
-void press(const QString &text)
-{
-    QPushButton *button = screenButton(text);
-    QVERIFY2(button, qPrintable("no button " + text));
-    QTest::mouseClick(button, Qt::LeftButton);
-}
-
 bool shown(const QWidget *widget)
 {
     return widget && widget->isVisibleTo(shell().currentModule());
@@ -50,31 +41,17 @@ bool shown(const QWidget *widget)
 
 } // namespace
 
-class tst_FightNightScreen : public QObject
+class tst_FightNightScreen : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(root.isValid());
-        QDir::setCurrent(root.path());
-        shell().initialize(ScreenFactory::builders());
-    }
-
     void init()
     {
         Random::useTestClock(2024);
         // the keys reach the game's window when it is the active one, as it is for a player
         shell().mainWindow()->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(shell().mainWindow()));
-    }
-
-    void cleanup()
-    {
-        Random::useRealClock();
-        GameManager::instance().resetWorld();
-        shell().hideTopMenu();
     }
 
     // A night played through its widgets as a player plays it: the stranger's match runs by
@@ -140,7 +117,7 @@ private slots:
                 QVERIFY(!shown(instructions));
                 ++strangersSteps;
             }
-            press("Next Step");
+            click("Next Step");
         }
         QVERIFY(strangersSteps > 0 && corners >= 1);
 
@@ -155,13 +132,13 @@ private slots:
         QCOMPARE(world.bookingsByFighter().value(man.fullName()), QString("N/A - N/A"));
 
         const QList<int> skillsBefore = world.managerValues();
-        press("Proceed");
+        click("Proceed");
         if (levelUp) {
             Module_PostEvent *post = summaryScreen();
             QVERIFY(post && shown(post->levelUpPage()) && !shown(post->summaryPage()));
             QCOMPARE(post->skillPointsLeft(), Module_PostEvent::LevelUpPoints);
             // the points must all be spent, and no skill falls below where it stood
-            QCOMPARE(texts(ScreenTestKit::press(screenButton("Proceed"), {"Back"})),
+            QCOMPARE(texts(press(screenButton("Proceed"), {"Back"})),
                      QStringList{"Please use all skill points before proceeding."});
             QVERIFY(summaryScreen());
             QSpinBox *cornering = post->skillBox(Entity_Manager::Cornering - Entity_Manager::Punch);
@@ -170,7 +147,7 @@ private slots:
             post->skillBox(0)->setValue(setup.skillLevel + 9);
             QCOMPARE(post->skillBox(0)->value(), setup.skillLevel + 7);
             QCOMPARE(post->skillPointsLeft(), 0);
-            QCOMPARE(texts(ScreenTestKit::press(screenButton("Proceed"), {"Accept"})),
+            QCOMPARE(texts(press(screenButton("Proceed"), {"Accept"})),
                      QStringList{"Are you sure you want to proceed?"});
             const QList<int> skills = world.managerValues();
             QCOMPARE(skills[Entity_Manager::Cornering], 10);
@@ -191,35 +168,35 @@ private slots:
         shell().startNextDay();
         Module_UserEvents *screen = nightScreen();
         QTimer *timer = screen->stageTimer();
-        press("Next Step"); // welcome
-        press("Next Step"); // the first match is announced
+        click("Next Step"); // welcome
+        click("Next Step"); // the first match is announced
         QVERIFY(!screenButton("Start Timer"));
-        press("Next Step"); // the tale of the tape
+        click("Next Step"); // the tale of the tape
         QVERIFY(shown(screen->findChild<QWidget *>("taleOfTape")));
         QVERIFY(!shown(screen->commentaryBox()));
-        press("Next Step");
+        click("Next Step");
         QVERIFY(!shown(screen->findChild<QWidget *>("taleOfTape")));
 
-        press("Start Timer");
+        click("Start Timer");
         QVERIFY(timer->isActive());
         QCOMPARE(timer->interval(), Module_UserEvents::StepInterval);
         QVERIFY(!screenButton("Next Step") && screenButton("Stop Timer"));
         // a tick does what a press does: the round begins
         QTRY_VERIFY_WITH_TIMEOUT(screen->commentaryBox()->toPlainText().contains("Round 1!"), 5000);
-        press("Stop Timer");
+        click("Stop Timer");
         QVERIFY(!timer->isActive() && screenButton("Next Step"));
 
-        press("Sim to End");
+        click("Sim to End");
         QCOMPARE(timer->interval(), Module_UserEvents::SimToEndInterval);
         QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), 20000);
         QCOMPARE(screen->fightNight().resultLines().size(), 1);
         QVERIFY(screenButton("Next Step") && screenButton("Start Timer") && !screenButton("Sim to End"));
 
-        press("Next Step"); // the user's match is announced
-        press("Next Step"); // the tale of the tape
-        press("Next Step");
-        press("Next Step"); // round 1
-        press("Sim to End");
+        click("Next Step"); // the user's match is announced
+        click("Next Step"); // the tale of the tape
+        click("Next Step");
+        click("Next Step"); // round 1
+        click("Sim to End");
         QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), 20000);
         QVERIFY(screenButton("Tend to Fighter") && !screenButton("Sim to End") && !screenButton("Start Timer"));
         QCOMPARE(screen->fightNight().roundNumber(), 2);
@@ -264,13 +241,13 @@ private slots:
         shell().startNextDay();
         Module_UserEvents *screen = nightScreen();
         for (int i = 0; i < 4; ++i)
-            press("Next Step");
+            click("Next Step");
         auto *clock = screen->findChild<QLabel *>("clockLabel");
         QString clockBefore;
         while (screen->fightNight().resultLines().isEmpty()) {
             QVERIFY(!screenButton("Tend to Fighter"));
             clockBefore = clock->text();
-            press("Next Step");
+            click("Next Step");
         }
         const QString result = screen->fightNight().resultLines().first();
         QVERIFY((result.contains(" by KO(") || result.contains(" by TKO(")) && result.endsWith(" of Round 1.\n"));
@@ -279,12 +256,9 @@ private slots:
         // the card is done: the results are told and the next press leads to the summary
         QVERIFY(screen->commentaryBox()->toPlainText().contains(NightName + " results:"));
         QVERIFY(!screenButton("Start Timer") && !screenButton("Sim to End"));
-        press("Next Step");
+        click("Next Step");
         QVERIFY(summaryScreen());
     }
-
-private:
-    QTemporaryDir root;
 };
 
 QTEST_MAIN(tst_FightNightScreen)

@@ -3,13 +3,10 @@
 #include "fighters/Entity_Gym.h"
 #include "screens/Module_MainMenu.h"
 #include "screens/Module_NewGame.h"
-#include "screens/ScreenFactory.h"
-#include "shell/TopMenuBar.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace ScreenTestKit;
@@ -33,26 +30,24 @@ void choose(const QString &boxName, const QString &text)
     emit box->activated(box->currentIndex());
 }
 
+void openNewGame()
+{
+    ModuleManager::instance().changeModule(new Module_MainMenu);
+    click("New Game");
+    QVERIFY(qobject_cast<Module_NewGame *>(ModuleManager::instance().currentModule()));
+}
+
 } // namespace
 
-class tst_NewGame : public QObject
+class tst_NewGame : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(root.isValid());
-        QDir::setCurrent(root.path());
-        writeNations(nationLists);
-        ModuleManager::instance().initialize(ScreenFactory::builders());
-    }
-
     void init()
     {
-        ModuleManager::instance().changeModule(new Module_MainMenu);
-        QTest::mouseClick(screenButton("New Game"), Qt::LeftButton);
-        QVERIFY(qobject_cast<Module_NewGame *>(ModuleManager::instance().currentModule()));
+        writeNations(nationLists);
+        openNewGame();
     }
 
     // 60 points for 18 boxes: a box raised past the points left steps back and stays capped
@@ -115,12 +110,12 @@ private slots:
             skills << box % 5;
             skillBox(box)->setValue(box % 5);
         }
-        QTest::mouseClick(screenButton("Advance to Gym Creation"), Qt::LeftButton);
+        click("Advance to Gym Creation");
         QTest::keyClicks(screenWidget<QLineEdit>("gymNameEdit"), "Golden Fist");
         choose("styleBox", "Karate");
         choose("primaryColourBox", "Teal");
         choose("secondaryColourBox", "Gold");
-        QTest::mouseClick(screenButton("Advance to Game"), Qt::LeftButton);
+        click("Advance to Game");
 
         QStringList strings, titles;
         QList<int> values, ledger;
@@ -139,25 +134,19 @@ private slots:
         // the game opens on the profile, with the top menu over it
         QVERIFY(ModuleManager::instance().isTopMenuVisible());
         QCOMPARE(ModuleManager::instance().topMenu()->currentScreen(), int(TopMenuBar::Profile));
-        ModuleManager::instance().hideTopMenu();
-        GameManager::instance().resetWorld();
     }
 
     void aMissingNationFileIsToldAndTheNationsStayEmpty()
     {
-        QVERIFY(QFile::rename("Resources/Defaults/default_nations.dat", "moved.dat"));
+        QVERIFY(QFile::remove("Resources/Defaults/default_nations.dat"));
         DialogScript script;
-        init();
+        openNewGame();
         QTRY_COMPARE(script.seen.size(), 1);
-        QVERIFY(QFile::rename("moved.dat", "Resources/Defaults/default_nations.dat"));
         QCOMPARE(script.seen[0].text, QString("Warning: ./Resources/Defaults/default_nations.dat - File not found. "
                                               "Proceeding may cause errors with the game."));
         QCOMPARE(screenWidget<QComboBox>("regionBox")->count(), 8);
         QCOMPARE(screenWidget<QComboBox>("nationBox")->count(), 0);
     }
-
-private:
-    QTemporaryDir root;
 };
 
 QTEST_MAIN(tst_NewGame)

@@ -1,12 +1,9 @@
-#include "screens/ScreenFactory.h"
 #include "screens/ScreenTestKit.h"
 #include "world/WorldSamples.h"
 
 #include "screens/Module_NextDay.h"
 #include "screens/Module_SaveLoad.h"
-#include "shell/TopMenuBar.h"
 
-#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -30,11 +27,6 @@ bool loadWorld(bool userNightToday, int userNights = 1)
     return w.load();
 }
 
-TopMenuBar *menu()
-{
-    return ModuleManager::instance().topMenu();
-}
-
 Module_NextDay *dayScreen()
 {
     return qobject_cast<Module_NextDay *>(ModuleManager::instance().currentModule());
@@ -42,33 +34,20 @@ Module_NextDay *dayScreen()
 
 } // namespace
 
-class tst_NextDay : public QObject
+class tst_NextDay : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(root.isValid());
-        QDir::setCurrent(root.path());
-        ModuleManager::instance().initialize(ScreenFactory::builders());
-        Random::useTestClock(3);
-    }
-
-    void cleanup()
-    {
-        GameManager::instance().resetWorld();
-        ModuleManager::instance().hideTopMenu();
-    }
+    void init() { Random::useTestClock(3); }
 
     // The button leads to the day, whose news stands once it is worked out; proceeding returns
     // to the screen last chosen on the top menu.
     void nextDayShowsTheNewsAndReturns()
     {
         QVERIFY(loadWorld(false));
-        ModuleManager::instance().showTopMenu();
-        QTest::mouseClick(menu()->button(TopMenuBar::SaveLoad), Qt::LeftButton);
-        QTest::mouseClick(menu()->button(TopMenuBar::NextDay), Qt::LeftButton);
+        openFromMenu(TopMenuBar::SaveLoad);
+        openFromMenu(TopMenuBar::NextDay);
 
         // the screen stands before the day runs
         QVERIFY(dayScreen() && !ModuleManager::instance().isTopMenuVisible() && !screenButton("Proceed to next day"));
@@ -81,7 +60,7 @@ private slots:
         QVERIFY(news.contains("Event booking news: "));
         QCOMPARE(GameManager::instance().getCurrentDate(), Today.addDays(1));
 
-        QTest::mouseClick(screenButton("Proceed to next day"), Qt::LeftButton);
+        click("Proceed to next day");
         QVERIFY(qobject_cast<Module_SaveLoad *>(ModuleManager::instance().currentModule()) &&
                 ModuleManager::instance().isTopMenuVisible());
     }
@@ -111,9 +90,6 @@ private slots:
         QTRY_VERIFY(screenButton("Proceed to next day"));
         QCOMPARE(GameManager::instance().getCurrentDate(), Today.addDays(1));
     }
-
-private:
-    QTemporaryDir root;
 };
 
 QTEST_MAIN(tst_NextDay)

@@ -7,11 +7,8 @@
 #include "screens/Module_MainMenu.h"
 #include "screens/Module_Profile.h"
 #include "screens/Module_UserEvents.h"
-#include "screens/ScreenFactory.h"
-#include "shell/TopMenuBar.h"
 
 #include <QComboBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace ScreenTestKit;
@@ -57,18 +54,10 @@ Module_Profile *profile()
     return qobject_cast<Module_Profile *>(ModuleManager::instance().currentModule());
 }
 
-// the profile as the top menu's button opens it
-void openProfile()
-{
-    ModuleManager::instance().showTopMenu();
-    QTest::mouseClick(ModuleManager::instance().topMenu()->button(TopMenuBar::Profile), Qt::LeftButton);
-    QVERIFY(profile());
-}
-
 void openFighterPage()
 {
-    openProfile();
-    QTest::mouseClick(screenButton("Current Fighters"), Qt::LeftButton);
+    openFromMenu(TopMenuBar::Profile);
+    click("Current Fighters");
     QVERIFY(profile()->showsFighterPage());
 }
 
@@ -81,24 +70,15 @@ void exportMan(const Entity_GymFighter &man)
 
 } // namespace
 
-class tst_Profile : public QObject
+class tst_Profile : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
+    void init()
     {
-        QVERIFY(root.isValid());
-        QDir::setCurrent(root.path());
         Random::useTestClock(9);
-        ModuleManager::instance().initialize(ScreenFactory::builders());
-    }
-
-    void cleanup()
-    {
         ModuleManager::instance().changeModule(new Module_MainMenu);
-        ModuleManager::instance().hideTopMenu();
-        GameManager::instance().resetWorld();
         QDir("Resources").removeRecursively();
     }
 
@@ -196,7 +176,7 @@ private slots:
         copy.close();
 
         QVERIFY(gymWorld({gymMan("Sami", "Kallio", 1102, "GKO")}).load());
-        openProfile();
+        openFromMenu(TopMenuBar::Profile);
         const QByteArray before = worldBytes();
         const QList<DialogScript::Seen> seen = press(screenButton("Import Fighter Into Database"), answers, {pick});
         QCOMPARE(texts(seen), told);
@@ -239,9 +219,6 @@ private slots:
         QVERIFY(profile() && ModuleManager::instance().isTopMenuVisible());
         QCOMPARE(worldBytes(), before);
     }
-
-private:
-    QTemporaryDir root;
 };
 
 QTEST_MAIN(tst_Profile)

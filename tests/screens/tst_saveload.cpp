@@ -1,14 +1,11 @@
-#include "screens/ScreenFactory.h"
 #include "screens/ScreenTestKit.h"
 
 #include "screens/Module_MainMenu.h"
 #include "screens/Module_SaveLoad.h"
-#include "shell/TopMenuBar.h"
 
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace ScreenTestKit;
@@ -29,13 +26,10 @@ bool onSaveScreen()
 void openSaveScreen(bool inGame)
 {
     ModuleManager::instance().changeModule(new Module_MainMenu);
-    ModuleManager::instance().showTopMenu();
-    if (inGame) {
-        QTest::mouseClick(ModuleManager::instance().topMenu()->button(TopMenuBar::SaveLoad), Qt::LeftButton);
-    } else {
-        ModuleManager::instance().hideTopMenu();
-        QTest::mouseClick(screenButton("Load Game"), Qt::LeftButton);
-    }
+    if (inGame)
+        openFromMenu(TopMenuBar::SaveLoad);
+    else
+        click("Load Game");
     QVERIFY(onSaveScreen());
 }
 
@@ -75,23 +69,12 @@ QStringList allFiles()
 
 } // namespace
 
-class tst_SaveLoad : public QObject
+class tst_SaveLoad : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(root.isValid());
-        QDir::setCurrent(root.path());
-        ModuleManager::instance().initialize(ScreenFactory::builders());
-    }
-
-    void cleanup()
-    {
-        GameManager::instance().resetWorld();
-        QDir(saves).removeRecursively();
-    }
+    void init() { QDir(saves).removeRecursively(); }
 
     // What a press gives when there is nothing to work on, or for a name that leads out of the
     // saves folder or that the list of saves could not show: one message, Cancel alone, no file.
@@ -173,7 +156,7 @@ private slots:
         }
         QVERIFY(worldBytes() != saved);
 
-        QTest::mouseClick(screenButton("Load Game"), Qt::LeftButton);
+        click("Load Game");
         pick("Harbour");
         const auto seen = press(screenButton("Load"), {"Accept", "Accept"});
         QCOMPARE(texts(seen), QStringList({"Load \"Harbour\"?", "File loaded successfully."}));
@@ -210,9 +193,6 @@ private slots:
         QCOMPARE(worldBytes(), running);
         QVERIFY(onSaveScreen() && ModuleManager::instance().isTopMenuVisible());
     }
-
-private:
-    QTemporaryDir root;
 };
 
 QTEST_MAIN(tst_SaveLoad)

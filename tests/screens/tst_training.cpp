@@ -1,13 +1,10 @@
-#include "screens/ScreenFactory.h"
 #include "screens/ScreenTestKit.h"
 #include "world/WorldSamples.h"
 
 #include "screens/Module_Training.h"
-#include "shell/TopMenuBar.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace ScreenTestKit;
@@ -17,14 +14,8 @@ namespace {
 const QDate Today(2012, 3, 1);
 constexpr int HeavyBag = 0; // the first piece of equipment
 
-struct GymSetup {
-    int money = 10000;
-    int heavyBag = 0;
-    int gymLevel = 0;
-};
-
 // Ames (id 1101) on the second plan, Bell (id 1102) on the first
-bool loadGym(const GymSetup &setup)
+bool loadGym(int money = 10000, int gymLevel = 0, int heavyBag = 0)
 {
     WorldSamples::World w;
     w.currentDate = Today;
@@ -35,19 +26,12 @@ bool loadGym(const GymSetup &setup)
     w.bookings = {Entity_Booking::emptyFor(1101, ames.fullName(), Today),
                   Entity_Booking::emptyFor(1102, bell.fullName(), Today)};
     QList<int> gym = w.gym.values();
-    gym[Entity_Gym::Money] = setup.money;
-    gym[Entity_Gym::GymLevel] = setup.gymLevel;
+    gym[Entity_Gym::Money] = money;
+    gym[Entity_Gym::GymLevel] = gymLevel;
     gym[Entity_Gym::FighterSlots] = 2;
-    gym[Entity_Gym::FirstEquipment + HeavyBag] = setup.heavyBag;
+    gym[Entity_Gym::FirstEquipment + HeavyBag] = heavyBag;
     w.gym.unpack(w.gym.strings(), gym, w.gym.ledger());
     return w.load();
-}
-
-void openTraining()
-{
-    ModuleManager::instance().showTopMenu();
-    QTest::mouseClick(ModuleManager::instance().topMenu()->button(TopMenuBar::Training), Qt::LeftButton);
-    QVERIFY(qobject_cast<Module_Training *>(ModuleManager::instance().currentModule()));
 }
 
 QButtonGroup *group(const QString &name)
@@ -64,59 +48,35 @@ QList<int> checkedPlans()
     return plans;
 }
 
-using Dialogs = QList<QPair<QString, QStringList>>;
-
-Dialogs shown(const QList<DialogScript::Seen> &seen)
+void openPlans()
 {
-    Dialogs dialogs;
-    for (const DialogScript::Seen &one : seen)
-        dialogs << qMakePair(one.text, one.buttons);
-    return dialogs;
+    openFromMenu(TopMenuBar::Training);
+    QVERIFY(qobject_cast<Module_Training *>(ModuleManager::instance().currentModule()));
+    click("To Training Plans");
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(Dialogs)
-
-class tst_Training : public QObject
+class tst_Training : public ScreenTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(root.isValid());
-        QDir::setCurrent(root.path());
-        ModuleManager::instance().initialize(ScreenFactory::builders());
-    }
-
-    void cleanup()
-    {
-        GameManager::instance().resetWorld();
-        ModuleManager::instance().hideTopMenu();
-    }
-
     // A plan chosen on the training page is stored on the fighter at once: it survives the
     // switching of fighters and the closing of the screen, and touches no other man.
     void aPlanSticksToItsFighter()
     {
-        QVERIFY(loadGym({}));
-        openTraining();
-        QTest::mouseClick(screenButton("To Training Plans"), Qt::LeftButton);
-        auto *fighters = screenWidget<QComboBox>("fighterBox");
+        QVERIFY(loadGym());
+        openPlans();
         QCOMPARE(checkedPlans(), QList<int>{1});
-
         QTest::mouseClick(group("planButtons")->button(13), Qt::LeftButton);
         QCOMPARE(GameManager::instance().fighterById(1101).trainingPlan, 13);
-        QCOMPARE(checkedPlans(), QList<int>{13});
-
+        auto *fighters = screenWidget<QComboBox>("fighterBox");
         fighters->setCurrentIndex(1);
         QCOMPARE(checkedPlans(), QList<int>{0});
         fighters->setCurrentIndex(0);
         QCOMPARE(checkedPlans(), QList<int>{13});
-
-        openTraining();
-        QTest::mouseClick(screenButton("To Training Plans"), Qt::LeftButton);
+        openPlans();
         QCOMPARE(checkedPlans(), QList<int>{13});
         QCOMPARE(GameManager::instance().fighterById(1102).trainingPlan, 0);
     }
@@ -129,24 +89,20 @@ private slots:
         QTest::addColumn<int>("money");
         QTest::addColumn<int>("level");
         QTest::addColumn<QStringList>("answers");
-        QTest::addColumn<Dialogs>("dialogs");
-        QTest::addColumn<int>("levelAfter");
+        QTest::addColumn<QStringList>("told");
         QTest::addColumn<int>("spent");
-
-        const QStringList both{"Accept", "Cancel"};
         const QStringList accept{"Accept", "Accept"};
         const QString bag = "Are you sure you want to upgrade this equipment? It will cost ";
         const QString gym = "Are you sure you want to upgrade your gym? It will cost ";
-        const QString short_ = "Could not upgrade. Be sure that you have enough money.";
-        const Dialogs atTheTop{{"Already at max level.", {"Cancel"}}};
         QTest::newRow("the bag upgraded")
-            << false << 3500 << 1 << accept << Dialogs{{bag + "$3,500. ", both}, {"Successfully upgraded.", {"Accept"}}}
-            << 2 << 3500;
+            << false << 3500 << 1 << accept << QStringList{bag + "$3,500. ", "Successfully upgraded."} << 3500;
         QTest::newRow("the bag thought better of")
-            << false << 500000 << 9 << QStringList{"Cancel"} << Dialogs{{bag + "$500,000. ", both}} << 9 << 0;
+            << false << 500000 << 9 << QStringList{"Cancel"} << QStringList{bag + "$500,000. "} << 0;
         QTest::newRow("the gym a million short of a dollar")
-            << true << 999999 << 7 << accept << Dialogs{{gym + "$1,000,000. ", both}, {short_, {"Accept"}}} << 7 << 0;
-        QTest::newRow("the gym at the top") << true << 9000000 << 10 << accept << atTheTop << 10 << 0;
+            << true << 999999 << 7 << accept
+            << QStringList{gym + "$1,000,000. ", "Could not upgrade. Be sure that you have enough money."} << 0;
+        QTest::newRow("the gym at the top")
+            << true << 9000000 << 10 << accept << QStringList{"Already at max level."} << 0;
     }
 
     void upgrades()
@@ -155,22 +111,19 @@ private slots:
         QFETCH(int, money);
         QFETCH(int, level);
         QFETCH(QStringList, answers);
-        QFETCH(int, levelAfter);
         QFETCH(int, spent);
-        GymSetup setup;
-        setup.money = money;
-        (gym ? setup.gymLevel : setup.heavyBag) = level;
-        QVERIFY(loadGym(setup));
-        openTraining();
-        QAbstractButton *button = gym ? screenButton("Upgrade Gym") : group("upgradeButtons")->button(HeavyBag);
-        QTEST(shown(press(button, answers)), "dialogs");
+        QVERIFY(loadGym(money, gym ? level : 0, gym ? 0 : level));
+        openFromMenu(TopMenuBar::Training);
+        const auto seen = press(gym ? screenButton("Upgrade Gym") : group("upgradeButtons")->button(HeavyBag), answers);
+        QTEST(texts(seen), "told");
+        // the question offers both answers, the outcome Accept alone, the top Cancel alone
+        const QStringList question = level == 10 ? QStringList{"Cancel"} : QStringList{"Accept", "Cancel"};
+        QCOMPARE(seen[0].buttons, question);
+        QCOMPARE(seen.last().buttons, seen.size() == 2 ? QStringList{"Accept"} : question);
         const Entity_Gym after = GameManager::instance().gymRecord();
-        QCOMPARE(gym ? after.value(Entity_Gym::GymLevel) : after.equipmentLevel(HeavyBag), levelAfter);
+        QCOMPARE(gym ? after.value(Entity_Gym::GymLevel) : after.equipmentLevel(HeavyBag), level + (spent ? 1 : 0));
         QCOMPARE(after.money(), money - spent);
     }
-
-private:
-    QTemporaryDir root;
 };
 
 QTEST_MAIN(tst_Training)
