@@ -8,6 +8,8 @@
 
 #include <QtTest>
 
+#include <array>
+
 using namespace Ring;
 
 namespace {
@@ -166,32 +168,22 @@ private slots:
     // What a man takes off a clean blow of 100: (conditioning / 10 + d10 + resilience / 10 + d10)
     // over (d10 - durability + 100) / 5 + 1. Of 99 each: 6 to 38 off; of durability 80: 2 to 7. A
     // blow he absorbs whole hurts nothing.
-    void aToughManAbsorbs_data()
-    {
-        QTest::addColumn<int>("durability");
-        QTest::addColumn<int>("lowest");
-        QTest::addColumn<int>("highest");
-        QTest::newRow("durability 99") << 99 << 62 << 94;
-        QTest::newRow("durability 80") << 80 << 93 << 98;
-    }
-
     void aToughManAbsorbs()
     {
-        QFETCH(int, durability);
-        QFETCH(int, lowest);
-        QFETCH(int, highest);
-        quietAttacker(man(2, "Puncher", 99, {{F::Durability, durability}}));
-        int seenLow = Plenty, seenHigh = 0;
-        for (int i = 0; i < 5000; ++i) {
-            const QList<int> lost = takes(new State_Gen_FullDmg(two()), EvJab, 100);
-            QCOMPARE(lost[4], lost[Head]);
-            seenLow = qMin(seenLow, lost[Head]);
-            seenHigh = qMax(seenHigh, lost[Head]);
+        for (const auto &[durability, lowest, highest] : {std::array{99, 62, 94}, std::array{80, 93, 98}}) {
+            quietAttacker(man(2, "Puncher", 99, {{F::Durability, durability}}));
+            int seenLow = Plenty, seenHigh = 0;
+            for (int i = 0; i < 5000; ++i) {
+                const QList<int> lost = takes(new State_Gen_FullDmg(two()), EvJab, 100);
+                QCOMPARE(lost[4], lost[Head]);
+                seenLow = qMin(seenLow, lost[Head]);
+                seenHigh = qMax(seenHigh, lost[Head]);
+            }
+            QCOMPARE(seenLow, lowest);
+            QVERIFY2(seenHigh <= highest && (durability < 99 || seenHigh == highest),
+                     qPrintable(QString::number(seenHigh)));
+            QCOMPARE(takes(new State_Gen_FullDmg(two()), EvMidKick, 1), QList<int>(5, 0));
         }
-        QCOMPARE(seenLow, lowest);
-        QVERIFY2(seenHigh <= highest && (durability < 99 || seenHigh == highest),
-                 qPrintable(QString::number(seenHigh)));
-        QCOMPARE(takes(new State_Gen_FullDmg(two()), EvMidKick, 1), QList<int>(5, 0));
     }
 
     // a man of all 0 takes 0 to 4 off a blow of 20, a guard of 99 2 to 6: (9 + 2d10 + 9 + d10) over 7 to 9
@@ -248,28 +240,19 @@ private slots:
     }
 
     // A man who falls from a blow to the head is out when u100 beats his headDurability.
-    void knockoutChance_data()
-    {
-        QTest::addColumn<int>("headDurability");
-        QTest::addColumn<double>("share");
-        QTest::newRow("a jaw of 0 is out 99 times in 100") << 0 << 0.99;
-        QTest::newRow("a jaw of 50, 49 times") << 50 << 0.49;
-        QTest::newRow("a jaw of 99 only goes down") << 99 << 0.0;
-    }
-
     void knockoutChance()
     {
-        QFETCH(int, headDurability);
-        QFETCH(double, share);
-        Entity_MatchFighter fighter = composedMan(false, headDurability);
-        int knockouts = 0;
-        for (int i = 0; i < 4000; ++i) {
-            fighter.setHealths(-10000, 100, 100, 100);
-            const int result = fighter.hitHead(0);
-            QVERIFY(result == MatchCodes::KnockedDown || result == MatchCodes::KnockedOut);
-            knockouts += result == MatchCodes::KnockedOut ? 1 : 0;
+        for (const auto &[headDurability, share] : {std::pair{0, 0.99}, std::pair{50, 0.49}, std::pair{99, 0.0}}) {
+            Entity_MatchFighter fighter = composedMan(false, headDurability);
+            int knockouts = 0;
+            for (int i = 0; i < 4000; ++i) {
+                fighter.setHealths(-10000, 100, 100, 100);
+                const int result = fighter.hitHead(0);
+                QVERIFY(result == MatchCodes::KnockedDown || result == MatchCodes::KnockedOut);
+                knockouts += result == MatchCodes::KnockedOut ? 1 : 0;
+            }
+            QVERIFY2(comesTo(knockouts, 4000, share, 0.025), qPrintable(QString::number(knockouts)));
         }
-        QVERIFY2(comesTo(knockouts, 4000, share, 0.025), qPrintable(QString::number(knockouts)));
     }
 
     void aBlowBelowTheHead_data() { TableRows::add(belowTheHead); }
