@@ -55,8 +55,6 @@ private slots:
         QTest::addColumn<int>("index");
         QTest::newRow("five wraps to the first of five") << CommentaryList::AtkOut_ToIn << 5 << 0;
         QTest::newRow("d100 of 99 is the fifth line") << CommentaryList::GenKO << 99 << 4;
-        QTest::newRow("d100 of 100 is the first line") << CommentaryList::GenKO << 100 << 0;
-        QTest::newRow("three wraps to the first of three") << CommentaryList::AtkIn_OnEvOut << 3 << 0;
         QTest::newRow("d100 of 100 is the second of three") << CommentaryList::AtkIn_OnEvOut << 100 << 1;
         QTest::newRow("a negative pick wraps backwards") << CommentaryList::AtkOut_OnEvIn << -1 << 2;
     }

@@ -39,6 +39,21 @@ bool shown(const QWidget *widget)
     return widget && widget->isVisibleTo(shell().currentModule());
 }
 
+// the night of `setup`, begun as the day's button begins it
+Module_UserEvents *startNight(const Setup &setup)
+{
+    if (!load(setup))
+        return nullptr;
+    shell().startNextDay();
+    return nightScreen();
+}
+
+void steps(int presses)
+{
+    for (int i = 0; i < presses; ++i)
+        click("Next Step");
+}
+
 } // namespace
 
 class tst_FightNightScreen : public ScreenTest
@@ -72,26 +87,21 @@ private slots:
         QFETCH(bool, levelUp);
         Setup setup;
         QFETCH(int, reputation);
+        setup.reputation = reputation;
         setup.gymLevel = wins ? 90 : 30;
         setup.opponentLevel = wins ? 30 : 90;
-        setup.reputation = reputation;
         setup.unbreakable = true; // his match goes the distance: his corner at every bell
-        QVERIFY(load(setup));
         GameManager &world = GameManager::instance();
-        const int moneyBefore = world.gymRecord().value(Entity_Gym::Money);
         shell().showTopMenu();
-        shell().startNextDay();
-        QVERIFY(nightScreen());
-        QVERIFY(!shell().isTopMenuVisible());
-        const Module_UserEvents *screen = nightScreen();
+        const Module_UserEvents *screen = startNight(setup);
+        const int moneyBefore = world.gymRecord().value(Entity_Gym::Money);
+        QVERIFY(screen && !shell().isTopMenuVisible());
         auto *instructions = screen->findChild<QComboBox *>("instructionBox");
-
-        int corners = 0;
-        int strangersSteps = 0;
+        int corners = 0, strangersSteps = 0;
         for (int step = 0; nightScreen() && step < 5000; ++step) {
             if (screenButton("Tend to Fighter")) {
                 QVERIFY(screen->fightNight().isUserMatch());
-                QTest::mouseClick(screenButton("Tend to Fighter"), Qt::LeftButton);
+                click("Tend to Fighter");
                 CornerPage *corner = screen->cornerPage();
                 QCOMPARE(corner->trainerPoints(), setup.cornering);
                 QVERIFY(!corner->observationsBox()->toPlainText().isEmpty());
@@ -164,12 +174,9 @@ private slots:
     {
         Setup setup;
         setup.stayers = true;
-        QVERIFY(load(setup));
-        shell().startNextDay();
-        Module_UserEvents *screen = nightScreen();
+        Module_UserEvents *screen = startNight(setup);
         QTimer *timer = screen->stageTimer();
-        click("Next Step"); // welcome
-        click("Next Step"); // the first match is announced
+        steps(2); // the welcome, the first match announced
         QVERIFY(!screenButton("Start Timer"));
         click("Next Step"); // the tale of the tape
         QVERIFY(shown(screen->findChild<QWidget *>("taleOfTape")));
@@ -192,10 +199,7 @@ private slots:
         QCOMPARE(screen->fightNight().resultLines().size(), 1);
         QVERIFY(screenButton("Next Step") && screenButton("Start Timer") && !screenButton("Sim to End"));
 
-        click("Next Step"); // the user's match is announced
-        click("Next Step"); // the tale of the tape
-        click("Next Step");
-        click("Next Step"); // round 1
+        steps(4); // the user's match announced, the tale of the tape, the ring, round 1
         click("Sim to End");
         QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), 20000);
         QVERIFY(screenButton("Tend to Fighter") && !screenButton("Sim to End") && !screenButton("Start Timer"));
@@ -208,9 +212,7 @@ private slots:
         Setup setup;
         setup.stayers = true;
         setup.strangersFirst = false;
-        QVERIFY(load(setup));
-        shell().startNextDay();
-        Module_UserEvents *screen = nightScreen();
+        Module_UserEvents *screen = startNight(setup);
         QWidget *window = shell().mainWindow();
         // the welcome, the announcement, the tale of the tape, the ring, the first round
         for (int i = 0; i < 5; ++i)
@@ -237,11 +239,8 @@ private slots:
         setup.gymLevel = 95;
         setup.opponentLevel = 5;
         setup.strangersFirst = false;
-        QVERIFY(load(setup));
-        shell().startNextDay();
-        Module_UserEvents *screen = nightScreen();
-        for (int i = 0; i < 4; ++i)
-            click("Next Step");
+        Module_UserEvents *screen = startNight(setup);
+        steps(4);
         auto *clock = screen->findChild<QLabel *>("clockLabel");
         QString clockBefore;
         while (screen->fightNight().resultLines().isEmpty()) {
