@@ -217,49 +217,46 @@ private slots:
         QCOMPARE(match().endRoundScores().mid(6), QList<int>({0, 3}));
     }
 
-    void stoppageTexts_data()
+    // a stoppage names the strike, a low kick's technical, dirty boxing's an uppercut; a decision
+    // stands at the end of the third round, and equal votes go to fighter one
+    void resultTexts_data()
     {
-        QTest::addColumn<int>("strike");
+        QTest::addColumn<int>("strike"); // -1: a decision
         QTest::addColumn<QString>("method");
         QTest::newRow("jab") << int(EvJab) << "KO(Jab)";
         QTest::newRow("low kick is technical") << int(EvLowKick) << "TKO(Low Kick)";
         QTest::newRow("dirty boxing reads as an uppercut") << int(EvDirtyBox) << "KO(Uppercut)";
+        QTest::newRow("a decision") << -1 << "Decision";
     }
 
-    void stoppageTexts()
+    void resultTexts()
     {
         QFETCH(int, strike);
         QFETCH(QString, method);
         startPlainMatch();
-        match().tickClock();
-        const QString time = QStringLiteral("0:0%1").arg(180 - match().getRoundClock());
-        one().setActionCode(strike);
-        two().setActionCode(5);
-        match().endMatch(two());
-        int winnerId = 0, loserId = 0;
-        QString winnerEntry, loserEntry;
-        QCOMPARE(match().resultText(winnerId, winnerEntry, loserId, loserEntry),
-                 QStringLiteral("Test Alder defeated Test Birch by %1 in %2 of Round 1.").arg(method, time));
-        QCOMPARE(winnerEntry, QStringLiteral("Win: Test Birch - %1 - Rd. 1(%2)").arg(method, time));
-        QCOMPARE(loserEntry, QStringLiteral("Loss: Test Alder - %1 - Rd. 1(%2)").arg(method, time));
-        QCOMPARE(QList<int>({winnerId, loserId}), QList<int>({1, 2}));
-    }
-
-    // equal votes go to fighter one; a decision stands at the end of the third round
-    void decisionTexts()
-    {
-        startPlainMatch();
-        match().decide(1, 1);
-        QCOMPARE(match().getWinner(), &one());
-        match().nextRound();
-        match().nextRound();
-        match().decide(0, 3);
+        QString time = "3:00", round = "3";
+        if (strike < 0) {
+            match().decide(1, 1);
+            QCOMPARE(match().getWinner(), &one());
+            match().nextRound();
+            match().nextRound();
+            match().decide(3, 0);
+        } else {
+            match().tickClock();
+            time = QStringLiteral("0:0%1").arg(180 - match().getRoundClock());
+            round = "1";
+            one().setActionCode(strike);
+            two().setActionCode(5);
+            match().endMatch(two());
+        }
         int winnerId = 0, loserId = 0;
         QString winnerEntry = "x ", loserEntry;
+        const QString line = QStringLiteral("%1 - Rd. %2(%3)").arg(method, round, time);
         QCOMPARE(match().resultText(winnerId, winnerEntry, loserId, loserEntry),
-                 QStringLiteral("Test Birch defeated Test Alder by Decision in 3:00 of Round 3."));
-        QCOMPARE(winnerEntry, QStringLiteral("x Win: Test Alder - Decision - Rd. 3(3:00)"));
-        QCOMPARE(loserEntry, QStringLiteral("Loss: Test Birch - Decision - Rd. 3(3:00)"));
+                 QStringLiteral("Test Alder defeated Test Birch by %1 in %2 of Round %3.").arg(method, time, round));
+        QCOMPARE(winnerEntry, "x Win: Test Birch - " + line);
+        QCOMPARE(loserEntry, "Loss: Test Alder - " + line);
+        QCOMPARE(QList<int>({winnerId, loserId}), QList<int>({1, 2}));
     }
 };
 

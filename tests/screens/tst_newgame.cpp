@@ -1,3 +1,4 @@
+#include "../fighters/TableRows.h"
 #include "screens/ScreenTestKit.h"
 
 #include "fighters/Entity_Gym.h"
@@ -30,6 +31,27 @@ void choose(const QString &boxName, const QString &text)
     emit box->activated(box->currentIndex());
 }
 
+// 60 points for 18 boxes: a box raised past the points left steps back and stays capped until
+// points are free again, and no box passes 10
+struct SkillMove {
+    const char *name;
+    QList<int> start;
+    int capped; // a box raised at no point left before the move, or -1
+    int box;
+    int raiseTo; // -1: one step up by the arrow key
+    int value, points, maximum;
+};
+
+const QList<int> allSpent(6, 10);
+const SkillMove skillMoves[] = {
+    {"at 1 point left a box at 3 rises to 4", {10, 10, 10, 10, 10, 3, 6}, -1, 5, -1, 4, 0, 10},
+    {"at no point left a raised box stays", allSpent, -1, 17, -1, 0, 0, 0},
+    {"a box typed past the points keeps what was left", {10, 10, 10, 10, 10, 5}, -1, 9, 8, 5, 0, 5},
+    {"a box at 10 goes no higher", {10}, -1, 0, -1, 10, 50, 10},
+    {"a capped box stays capped", allSpent, 6, 6, -1, 0, 0, 0},
+    {"lowering a box frees the capped one", allSpent, 6, 5, 9, 9, 1, 10},
+};
+
 void openNewGame()
 {
     ModuleManager::instance().changeModule(new Module_MainMenu);
@@ -50,35 +72,11 @@ private slots:
         openNewGame();
     }
 
-    // 60 points for 18 boxes: a box raised past the points left steps back and stays capped
-    // until points are free again, and no box passes 10
-    void skillPoints_data()
-    {
-        QTest::addColumn<QList<int>>("start");
-        QTest::addColumn<int>("capped"); // a box raised at no point left before the move, or -1
-        QTest::addColumn<int>("box");
-        QTest::addColumn<int>("raiseTo"); // -1: one step up by the arrow key
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("points");
-        QTest::addColumn<int>("maximum");
-        const QList<int> allSpent(6, 10);
-        QTest::newRow("at 1 point left a box at 3 rises to 4")
-            << QList<int>{10, 10, 10, 10, 10, 3, 6} << -1 << 5 << -1 << 4 << 0 << 10;
-        QTest::newRow("at no point left a raised box stays") << allSpent << -1 << 17 << -1 << 0 << 0 << 0;
-        QTest::newRow("a box typed past the points keeps what was left")
-            << QList<int>{10, 10, 10, 10, 10, 5} << -1 << 9 << 8 << 5 << 0 << 5;
-        QTest::newRow("a box at 10 goes no higher") << QList<int>{10} << -1 << 0 << -1 << 10 << 50 << 10;
-        QTest::newRow("a capped box stays capped") << allSpent << 6 << 6 << -1 << 0 << 0 << 0;
-        QTest::newRow("lowering a box frees the capped one") << allSpent << 6 << 5 << 9 << 9 << 1 << 10;
-    }
+    void skillPoints_data() { TableRows::add(skillMoves); }
 
     void skillPoints()
     {
-        QFETCH(QList<int>, start);
-        QFETCH(int, capped);
-        QFETCH(int, box);
-        QFETCH(int, raiseTo);
-        QFETCH(int, points);
+        const auto &[name, start, capped, box, raiseTo, value, points, maximum] = TableRows::current(skillMoves);
         for (int i = 0; i < start.size(); ++i)
             skillBox(i)->setValue(start[i]);
         if (capped >= 0)
@@ -88,8 +86,8 @@ private slots:
         else
             skillBox(box)->setValue(raiseTo);
 
-        QTEST(skillBox(box)->value(), "value");
-        QTEST(skillBox(box)->maximum(), "maximum");
+        QCOMPARE(skillBox(box)->value(), value);
+        QCOMPARE(skillBox(box)->maximum(), maximum);
         QCOMPARE(screenWidget<QLabel>("skillPointsLabel")->text(), "Skill Points: " + QString::number(points));
         if (capped >= 0)
             QCOMPARE(skillBox(capped)->maximum(), points == 0 ? 0 : 10);
