@@ -13,10 +13,8 @@
 #include "world/GameManager.h"
 
 #include "common/SavedWorld.h"
-
-#include <QByteArray>
-#include <QDataStream>
-#include <QIODevice>
+#include "common/Streamed.h"
+#include "world/WorldInvariants.h"
 
 // Small records of the world for the tests: men, cards, nights and promotions.
 namespace WorldSamples {
@@ -85,24 +83,11 @@ inline Entity_Org organisation(const QString &name, const QList<Entity_Event> &c
     return org;
 }
 
-template <typename Record> QByteArray streamed(const Record &record)
+// every attribute of the man at `value`
+template <typename Man> void setAll(Man &man, int value)
 {
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(StreamForm::version);
-    out << record;
-    return bytes;
-}
-
-template <typename Record> Record readBack(const QByteArray &bytes, QDataStream::Status *status = nullptr)
-{
-    QDataStream in(bytes);
-    in.setVersion(StreamForm::version);
-    Record record;
-    in >> record;
-    if (status)
-        *status = in.status();
-    return record;
+    for (int a = Entity_Fighter::FirstAttribute; a <= Entity_Fighter::LastAttribute; ++a)
+        man.setNumber(Entity_Fighter::Number(a), value);
 }
 
 // A whole world of the first of March, to be made the running one.
@@ -112,7 +97,49 @@ struct World : SavedWorld {
         nextId = 1100;
         currentDate = QDate(2011, 3, 1);
     }
+    // the user's men, each free to be booked
+    void addGym(const QList<Entity_GymFighter> &men)
+    {
+        for (const Entity_GymFighter &man : men) {
+            fighters.append(man);
+            bookings.append(Entity_Booking::emptyFor(man.getId(), man.fullName(), QDate(1999, 1, 1)));
+        }
+    }
+    // every student place taken, so that nobody new comes to the gym
+    void fillStudentPlaces()
+    {
+        for (int i = 0; i < 3; ++i)
+            students.append(fighter(2000, "Stu", "Dent" + QString::number(i), 0));
+    }
 };
+
+inline GameManager &game()
+{
+    return GameManager::instance();
+}
+
+// what is wrong with the running world, empty when sound
+inline QString faults()
+{
+    return WorldInvariants::check(game().state()).join('\n');
+}
+
+inline Entity_Org::Titles titlesOf(const QString &organisation)
+{
+    Entity_Org::Titles titles;
+    game().organisation(organisation).titlesCopy(titles);
+    return titles;
+}
+
+inline Entity_Event eventNamed(const QString &organisation, const QString &name)
+{
+    QList<Entity_Event> calendar;
+    game().organisation(organisation).events(calendar);
+    for (const Entity_Event &event : std::as_const(calendar))
+        if (event.name() == name)
+            return event;
+    return {};
+}
 
 inline QByteArray savedWorld()
 {

@@ -1,7 +1,6 @@
 #include "WorldSamples.h"
 
 #include "fighters/Random.h"
-#include "persistence/DefaultWorld.h"
 #include "world/BookingRound.h"
 
 #include <QRegularExpression>
@@ -274,6 +273,11 @@ private slots:
         QTest::newRow("a finals night keeps its name; position 7 reaches the quarterfinals") << s;
         s.userPosition = 8, s.userAllowed = {Off}, s.userSeen = "";
         QTest::newRow("position 8 has no place on a finals night") << s;
+        s = {}, s.card = cardOf(QStringList(8, "Tournament Qualifier")), s.rosterSize = 20;
+        s.userPosition = 15, s.userAllowed = {"Tournament Qualifier", Off}, s.userSeen = "Tournament Qualifier";
+        QTest::newRow("position 15 reaches the qualifiers") << s;
+        s.userPosition = 16, s.userAllowed = {Off}, s.userSeen = "";
+        QTest::newRow("position 16 does not") << s;
 
         s = {}, s.card = {slot(S, "Ken Foxtrot", 105, "Ken Golf", 106), slot(S, "Ken Hotel", 107, "Ken India", 108),
                           slot(S, "Ken Alpha", 100, "Ken Bravo", 101)};
@@ -336,108 +340,6 @@ private slots:
                      qPrintable(userPlaces.last()));
         }
         QVERIFY2(scene.userSeen.isEmpty() || userPlaces.contains(scene.userSeen), qPrintable(userPlaces.join(", ")));
-    }
-
-    void aSeededMonthKeepsEveryCardSound()
-    {
-        QVERIFY(busyWorld().load());
-        Random::useTestClock(2011);
-        QVERIFY(bookDays(60, "Delta Tiny") > 200);
-    }
-
-    void theDefaultWorldBooksSixtyDays()
-    {
-        GameManager::instance().takeWorld(DefaultWorld::read());
-        if (GameManager::instance().organisationNames().isEmpty())
-            QSKIP("this build holds no default world");
-        Random::useTestClock(2011);
-        QVERIFY(bookDays(60) > 0);
-    }
-
-private:
-    // Books the running world day after day. After each day every card is sound, one line stands
-    // for each place taken, and the nights of the day are complete, but for a starved promotion.
-    static int bookDays(int days, const QString &starved = {})
-    {
-        GameManager &game = GameManager::instance();
-        int lines = 0;
-        for (int day = 0; day < days && !QTest::currentTestFailed(); ++day) {
-            game.advanceDate();
-            const int before = allPlacesTaken();
-            const QStringList news = game.bookEvents();
-            lines += int(news.size());
-            [&] { QCOMPARE(allPlacesTaken() - before, int(news.size())); }();
-            for (const QString &line : news)
-                [&] { QVERIFY2(NewsLine.match(line).hasMatch(), qPrintable(line)); }();
-            QMap<int, int> userCards; // the user's man to the cards ahead that hold him
-            for (const QString &name : game.organisationNames()) {
-                QList<Entity_Event> calendar;
-                game.organisation(name).events(calendar);
-                for (const Entity_Event &night : std::as_const(calendar)) {
-                    const QString where = night.name() + ", " + night.date().toString();
-                    [&] { QVERIFY2(faultsOf(night).isEmpty(), qPrintable(where + ": " + faultsOf(night))); }();
-                    const bool tonight = night.date() == game.getCurrentDate();
-                    const bool complete =
-                        night.championshipsFilled() && night.tournamentSlotsFilled() && night.singlesFilled();
-                    [&] { QVERIFY2(!tonight || name == starved || complete, qPrintable(where)); }();
-                    for (const Entity_GymFighter &man : usersMen())
-                        userCards[man.getId()] +=
-                            night.date() >= game.getCurrentDate() && night.holdsFighter(man.getId());
-                }
-            }
-            for (int cards : std::as_const(userCards))
-                [&] { QVERIFY(cards <= 1); }();
-        }
-        return lines;
-    }
-
-    // Four promotions over two months: title nights with a holder and with a vacant belt, a
-    // tournament with qualifiers and finals, and a promotion too small for its cards.
-    static World busyWorld()
-    {
-        World world;
-        world.currentDate = QDate(2011, 1, 1);
-        QMap<QString, QList<Entity_Event>> calendars;
-        const auto nights = [&](const QString &org, const QStringList &card, int first, int every, int count,
-                                const QString &title = "No Title") {
-            for (int i = 0; i < count; ++i) {
-                const int day = first + i * every;
-                calendars[org].append(makeEvent(QString("%1 Night %2").arg(org).arg(day), org,
-                                                world.currentDate.addDays(day), cardOf(card), title));
-            }
-        };
-        const QStringList plain(8, S);
-        const QStringList titleNight = QStringList(6, S) << T;
-        nights("Alpha League", plain, 3, 14, 5);
-        nights("Alpha League", titleNight, 10, 14, 5, "Alpha League World Championship");
-        nights("Beta Circuit", plain, 5, 21, 1);
-        nights("Beta Circuit", QStringList(8, "Tournament Qualifier") << S << S, 20, 21, 1);
-        nights("Beta Circuit",
-               QStringList(4, "Tournament Quarterfinal") << "Tournament Semifinal"
-                                                         << "Tournament Semifinal"
-                                                         << "Tournament Final",
-               42, 1, 1, "Beta Grand Prix 2011");
-        nights("Beta Circuit", plain, 55, 21, 1);
-        nights("Gamma Promotions", titleNight, 6, 10, 6, "Gamma World Championship");
-        nights("Delta Tiny", QStringList(5, S), 4, 9, 7);
-        for (auto &calendar : calendars)
-            std::sort(calendar.begin(), calendar.end(), [](auto &a, auto &b) { return a.date() < b.date(); });
-
-        world.organisations = {
-            organisation("Alpha League", calendars["Alpha League"], rosterOf(40, "Alpha League", 1000),
-                         titlesOf({"Alpha League World Championship=Ken Charlie"})),
-            organisation("Beta Circuit", calendars["Beta Circuit"], rosterOf(30, "Beta Circuit", 2000),
-                         titlesOf({"Beta Grand Prix 2010=Ken Mike"})),
-            organisation("Gamma Promotions", calendars["Gamma Promotions"], rosterOf(20, "Gamma Promotions", 3000),
-                         titlesOf({"Gamma World Championship=Vacant"})),
-            organisation("Delta Tiny", calendars["Delta Tiny"], rosterOf(6, "Delta Tiny", 4000)),
-        };
-        world.fighters = {gymMan(900, "Storm", -1, "Alpha League"),     gymMan(901, "Blaze", 7, "Alpha League"),
-                          gymMan(902, "Frost", 20, "Alpha League"),     gymMan(903, "Ember", 4, "Beta Circuit"),
-                          gymMan(904, "Cinder", 0, "Gamma Promotions"), gymMan(905, "Flint", 6, "Free Agent")};
-        for (const Entity_GymFighter &man : std::as_const(world.fighters))
-            world.bookings.append(Entity_Booking::emptyFor(man.getId(), man.fullName(), world.currentDate));
-        return world;
     }
 };
 
