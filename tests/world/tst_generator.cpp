@@ -1,4 +1,5 @@
 #include "WorldSamples.h"
+#include "fighters/TableRows.h"
 
 #include "fighters/FighterGenerator.h"
 #include "fighters/FighterTraits.h"
@@ -48,13 +49,27 @@ void startWith(const QString &nation, const QString &region, int intuition = 5, 
     QList<int> gymValues = world.gym.values();
     gymValues[Entity_Gym::StudentSlots] = studentSlots;
     world.gym.unpack({"Tiger Den", "Muay Thai", "Gold", "Black", "Unknown"}, gymValues, world.gym.ledger());
-    GameManager::instance().takeWorld(world);
+    game().takeWorld(world);
 }
 
 const WorldState &running()
 {
-    return GameManager::instance().state();
+    return game().state();
 }
+
+// the shares of the manager's nation and region and of the main nations
+struct Origin {
+    const char *name;
+    bool forGym;
+    const char *nation, *region;
+    double nationLow, nationHigh, regionLow, regionHigh, mainLow;
+};
+const Origin origins[] = {
+    {"free agents mostly from the main list", false, "", "", 0.0, 1.0, 0.0, 1.0, 0.80},
+    {"students of a main nation's manager", true, "Japan", "East Asia", 0.70, 0.90, 0.88, 1.0, 0.70},
+    {"students of a small nation's manager: never simply copied", true, "Fiji", "Oceania", 0.0, 0.15, 0.62, 0.80, 0.0},
+    {"students of a manager from nowhere", true, "", "", 0.0, 0.0, 0.0, 0.0, 0.0},
+};
 
 } // namespace
 
@@ -65,26 +80,14 @@ class tst_Generator : public QObject
 
 private slots:
     void init() { Random::useTestClock(5150); }
-    void cleanup() { GameManager::instance().resetWorld(); }
+    void cleanup() { game().resetWorld(); }
 
-    void qualityBands_data()
-    {
-        QTest::addColumn<int>("roll");
-        QTest::addColumn<int>("bonus");
-        QTest::newRow("9 stands as it is") << 9 << 9;
-        QTest::newRow("10 gives 3") << 10 << 3;
-        QTest::newRow("29 gives 3") << 29 << 3;
-        QTest::newRow("30 gives 6") << 30 << 6;
-        QTest::newRow("49 gives 6") << 49 << 6;
-        QTest::newRow("50 gives 9") << 50 << 9;
-        QTest::newRow("64 gives 9") << 64 << 9;
-        QTest::newRow("65 gives 12") << 65 << 12;
-    }
+    // the roll's band gives the bonus; below the first band the roll stands as it is
     void qualityBands()
     {
-        QFETCH(int, roll);
-        QFETCH(int, bonus);
-        QCOMPARE(FighterGenerator::qualityBonus(roll), bonus);
+        const QList<std::pair<int, int>> bands{{9, 9}, {10, 3}, {29, 3}, {30, 6}, {49, 6}, {50, 9}, {64, 9}, {65, 12}};
+        for (const auto &[roll, bonus] : bands)
+            QCOMPARE(FighterGenerator::qualityBonus(roll), bonus);
     }
 
     void idsComeFromTheCounter_data()
@@ -103,51 +106,24 @@ private slots:
         QFETCH(QList<int>, ids);
         QFETCH(int, counter);
         startWith("Japan", "East Asia");
-        GameManager &game = GameManager::instance();
         QList<int> made;
         for (bool student : forGym) {
             QString name;
-            QCOMPARE(game.generateFighter(bookOf(30), name, student), student);
+            QCOMPARE(game().generateFighter(bookOf(30), name, student), student);
             const QList<F> men = student ? running().students : running().freeAgents.values();
             for (const F &man : men)
                 if (man.fullName() == name)
                     made.append(man.getId());
         }
         QCOMPARE(made, ids);
-        QCOMPARE(game.getNextId(), counter);
+        QCOMPARE(game().getNextId(), counter);
     }
 
     // origins over many draws: where the men come from, by the rules of free agents and students
-    void originRules_data()
-    {
-        QTest::addColumn<bool>("forGym");
-        QTest::addColumn<QString>("managerNation");
-        QTest::addColumn<QString>("managerRegion");
-        QTest::addColumn<double>("nationLow"); // share of the manager's nation
-        QTest::addColumn<double>("nationHigh");
-        QTest::addColumn<double>("regionLow"); // share of the manager's region
-        QTest::addColumn<double>("regionHigh");
-        QTest::addColumn<double>("mainLow"); // share of main nations
-        QTest::newRow("free agents mostly from the main list") << false << ""
-                                                               << "" << 0.0 << 1.0 << 0.0 << 1.0 << 0.80;
-        QTest::newRow("students of a main nation's manager") << true << "Japan"
-                                                             << "East Asia" << 0.70 << 0.90 << 0.88 << 1.0 << 0.70;
-        QTest::newRow("students of a small nation's manager: never simply copied")
-            << true << "Fiji"
-            << "Oceania" << 0.0 << 0.15 << 0.62 << 0.80 << 0.0;
-        QTest::newRow("students of a manager from nowhere") << true << ""
-                                                            << "" << 0.0 << 0.0 << 0.0 << 0.0 << 0.0;
-    }
+    void originRules_data() { TableRows::add(origins); }
     void originRules()
     {
-        QFETCH(bool, forGym);
-        QFETCH(QString, managerNation);
-        QFETCH(QString, managerRegion);
-        QFETCH(double, nationLow);
-        QFETCH(double, nationHigh);
-        QFETCH(double, regionLow);
-        QFETCH(double, regionHigh);
-        QFETCH(double, mainLow);
+        const Origin &row = TableRows::current(origins);
         const NationTable::Lists lists = regionLists();
         constexpr int draws = 3000;
         int sameNation = 0;
@@ -156,10 +132,10 @@ private slots:
         QSet<int> regions;
         for (int i = 0; i < draws; ++i) {
             const FighterGenerator::Origin origin =
-                FighterGenerator::chooseOrigin(lists, forGym, managerNation, managerRegion);
+                FighterGenerator::chooseOrigin(lists, row.forGym, row.nation, row.region);
             QVERIFY2(lists.value(origin.region).contains(origin.nation), qPrintable(origin.nation));
-            sameNation += origin.nation == managerNation;
-            sameRegion += NationTable::regions().value(origin.region) == managerRegion;
+            sameNation += origin.nation == row.nation;
+            sameRegion += NationTable::regions().value(origin.region) == row.region;
             main += NationTable::mainIndex(origin.nation) >= 0;
             regions.insert(origin.region);
         }
@@ -167,9 +143,9 @@ private slots:
             const double share = double(count) / draws;
             return share >= low && share <= high;
         };
-        QVERIFY2(within(sameNation, nationLow, nationHigh), qPrintable(QString::number(sameNation)));
-        QVERIFY2(within(sameRegion, regionLow, regionHigh), qPrintable(QString::number(sameRegion)));
-        QVERIFY2(within(main, mainLow, 1.0), qPrintable(QString::number(main)));
+        QVERIFY2(within(sameNation, row.nationLow, row.nationHigh), qPrintable(QString::number(sameNation)));
+        QVERIFY2(within(sameRegion, row.regionLow, row.regionHigh), qPrintable(QString::number(sameRegion)));
+        QVERIFY2(within(main, row.mainLow, 1.0), qPrintable(QString::number(main)));
         // one time in four or in three a man comes from anywhere at all
         QCOMPARE(regions.size(), NationTable::RegionCount);
     }
@@ -179,21 +155,20 @@ private slots:
     void everyNameOnceThenNobody()
     {
         startWith("Japan", "East Asia", 5, 40);
-        GameManager &game = GameManager::instance();
         QSet<QString> names;
         for (int i = 0; i < 36; ++i) {
             QString name;
-            game.generateFighter(bookOf(6), name, i % 3 == 0);
+            game().generateFighter(bookOf(6), name, i % 3 == 0);
             names.insert(name);
         }
         QCOMPARE(names.size(), 36);
-        QCOMPARE(game.getNextId(), 1058 + 24);
+        QCOMPARE(game().getNextId(), 1058 + 24);
 
         QString none = "unchanged";
-        QVERIFY(!game.generateFighter(bookOf(6), none, false));
-        QVERIFY(!game.generateFighter(bookOf(6), none, true));
+        QVERIFY(!game().generateFighter(bookOf(6), none, false));
+        QVERIFY(!game().generateFighter(bookOf(6), none, true));
         QCOMPARE(none, QString("unchanged"));
-        QCOMPARE(game.getNextId(), 1058 + 24);
+        QCOMPARE(game().getNextId(), 1058 + 24);
         QCOMPARE(running().freeAgents.size() + running().students.size(), 36);
     }
 
@@ -202,7 +177,7 @@ private slots:
     {
         startWith("Thailand", "Oceania");
         QString name;
-        QVERIFY(!GameManager::instance().generateFighter({}, name, false));
+        QVERIFY(!game().generateFighter({}, name, false));
         QCOMPARE(name, QString("N/A N/A"));
         const F man = running().freeAgents.first();
         const int main = NationTable::mainIndex(man.text(F::Nationality));
@@ -220,11 +195,10 @@ private slots:
     {
         QFETCH(int, intuition);
         startWith("Japan", "East Asia", intuition, 200);
-        GameManager &game = GameManager::instance();
         int shown = 0;
         for (int i = 0; i < 120; ++i) {
             QString name;
-            QVERIFY(game.generateFighter(bookOf(30), name, true));
+            QVERIFY(game().generateFighter(bookOf(30), name, true));
             const QStringList lines = running().students[i].text(F::Bio).split('\n');
             QCOMPARE(lines.first(), QString("New Fighter"));
             for (const QString &trait : lines.mid(1)) {
