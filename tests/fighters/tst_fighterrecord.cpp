@@ -171,32 +171,6 @@ private slots:
         QCOMPARE(after, QList<int>({99, 0, 99, 120, -30}));
     }
 
-    void birthdayAddsAYear_data()
-    {
-        QTest::addColumn<QDate>("born");
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("on the day") << QDate(1990, 6, 15) << QDate(2012, 6, 15) << 23;
-        QTest::newRow("the day before") << QDate(1990, 6, 15) << QDate(2012, 6, 14) << 22;
-        QTest::newRow("leap day in another year") << QDate(1992, 2, 29) << QDate(2013, 2, 28) << 22;
-    }
-
-    void birthdayAddsAYear()
-    {
-        QFETCH(QDate, born);
-        QFETCH(QDate, day);
-        QFETCH(int, expected);
-        Entity_GymFighter fighter;
-        fighter.setBirthDate(born);
-        fighter.setNumber(F::Age, 22);
-        int oldAge = 0;
-        QCOMPARE(fighter.ageWithBirthday(day, &oldAge), expected);
-        QCOMPARE(oldAge, 22);
-        QCOMPARE(fighter.number(F::Age), 22);
-        QCOMPARE(fighter.advanceAge(day), 22);
-        QCOMPARE(fighter.number(F::Age), expected);
-    }
-
     // each trait moves exactly the attributes it names, by 1 to 7, up or down
     void traitMovesItsAttributes_data()
     {

@@ -1,3 +1,5 @@
+#include "TableRows.h"
+
 #include "fighters/Entity_Gym.h"
 #include "fighters/Entity_GymFighter.h"
 #include "fighters/Entity_Manager.h"
@@ -44,6 +46,21 @@ Entity_Fighter bornOn(const QDate &born, int age, int attributes)
     return man;
 }
 
+struct Morning {
+    const char *name;
+    int money, heavyBag, focusMitts;
+    bool amesTrains, bellTrains;
+    int moneyAfter;
+};
+const Morning mornings[] = {
+    {"two share 100 on level 2: both pay, the gym ends at -100", 100, 2, 2, true, true, -100},
+    {"the second is measured against the morning, not what the first left", 100, 2, 1, true, true, -50},
+    {"a gym without the morning's money: both rest", 50, 2, 2, false, false, 50},
+    {"one paid, one not", 100, 1, 3, true, false, 50},
+    {"bare equipment is free to a gym with 0", 0, 0, 0, true, true, 0},
+    {"a gym in debt cannot pay even that", -10, 0, 0, false, false, -10},
+};
+
 } // namespace
 
 class tst_GymRoutine : public QObject
@@ -55,33 +72,11 @@ private slots:
 
     // Ames works the heavy bag, Bell the focus mitts. Both are measured against the money of the
     // morning, and each day's cost comes off the gym at once.
-    void morningMoney_data()
-    {
-        QTest::addColumn<int>("money");
-        QTest::addColumn<int>("heavyBag");
-        QTest::addColumn<int>("focusMitts");
-        QTest::addColumn<bool>("amesTrains");
-        QTest::addColumn<bool>("bellTrains");
-        QTest::addColumn<int>("moneyAfter");
-
-        QTest::newRow("two share 100 on level 2: both pay, the gym ends at -100")
-            << 100 << 2 << 2 << true << true << -100;
-        QTest::newRow("the second is measured against the morning, not what the first left")
-            << 100 << 2 << 1 << true << true << -50;
-        QTest::newRow("a gym without the morning's money: both rest") << 50 << 2 << 2 << false << false << 50;
-        QTest::newRow("one paid, one not") << 100 << 1 << 3 << true << false << 50;
-        QTest::newRow("bare equipment is free to a gym with 0") << 0 << 0 << 0 << true << true << 0;
-        QTest::newRow("a gym in debt cannot pay even that") << -10 << 0 << 0 << false << false << -10;
-    }
-
+    void morningMoney_data() { TableRows::add(mornings); }
     void morningMoney()
     {
-        QFETCH(int, money);
-        QFETCH(int, heavyBag);
-        QFETCH(int, focusMitts);
-        QFETCH(bool, amesTrains);
-        QFETCH(bool, bellTrains);
-        QFETCH(int, moneyAfter);
+        const auto [name, money, heavyBag, focusMitts, amesTrains, bellTrains, moneyAfter] =
+            TableRows::current(mornings);
         Random::useTestClock(3);
         QList<Entity_GymFighter> fighters{fighterOn(1, "Ames"), fighterOn(2, "Bell")};
         Entity_Gym gym = gymWith(money, heavyBag, focusMitts);
@@ -110,6 +105,7 @@ private slots:
         QTest::newRow("28 February of a common year passes him by")
             << QDate(1988, 2, 29) << QDate(2013, 2, 28) << QStringList();
         QTest::newRow("a birthday in summer") << QDate(1990, 7, 4) << QDate(2015, 7, 4) << both;
+        QTest::newRow("the day before") << QDate(1990, 7, 4) << QDate(2015, 7, 3) << QStringList();
     }
 
     void birthdays()

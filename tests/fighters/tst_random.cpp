@@ -57,37 +57,29 @@ private slots:
         QVERIFY(qrand() != afterNoStir);
     }
 
-    void rollsStayInTheirRange_data()
-    {
-        QTest::addColumn<int>("n");
-        QTest::newRow("d1") << 1;
-        QTest::newRow("d3") << 3;
-        QTest::newRow("d100") << 100;
-        QTest::newRow("range 0 held at 1") << 0;
-        QTest::newRow("negative range held at 1") << -5;
-    }
-
+    // d rolls 1 to n, u 0 to n - 1, signedD either sign of d; a range below 1 is held at 1
     void rollsStayInTheirRange()
     {
-        QFETCH(int, n);
-        Random::useTestClock(1);
-        const int top = qMax(n, 1);
-        QSet<int> seenD, seenU, seenSigned;
-        for (int i = 0; i < 5000; ++i) {
-            Random::seedFromClock();
-            const int dn = Random::d(n);
-            const int un = Random::u(n);
-            const int sn = Random::signedD(n);
-            QVERIFY(dn >= 1 && dn <= top);
-            QVERIFY(un >= 0 && un < top);
-            QVERIFY(qAbs(sn) >= 1 && qAbs(sn) <= top);
-            seenD.insert(dn);
-            seenU.insert(un);
-            seenSigned.insert(sn);
+        for (int n : {3, 100, 0, -5}) {
+            Random::useTestClock(1);
+            const int top = qMax(n, 1);
+            QSet<int> seenD, seenU, seenSigned;
+            for (int i = 0; i < 5000; ++i) {
+                Random::seedFromClock();
+                const int dn = Random::d(n);
+                const int un = Random::u(n);
+                const int sn = Random::signedD(n);
+                QVERIFY(dn >= 1 && dn <= top);
+                QVERIFY(un >= 0 && un < top);
+                QVERIFY(qAbs(sn) >= 1 && qAbs(sn) <= top);
+                seenD.insert(dn);
+                seenU.insert(un);
+                seenSigned.insert(sn);
+            }
+            QCOMPARE(seenD.size(), top);
+            QCOMPARE(seenU.size(), top);
+            QCOMPARE(seenSigned.size(), 2 * top);
         }
-        QCOMPARE(seenD.size(), top);
-        QCOMPARE(seenU.size(), top);
-        QCOMPARE(seenSigned.size(), 2 * top);
     }
 };
 

@@ -1,3 +1,5 @@
+#include "TableRows.h"
+
 #include "fighters/Entity_GymFighter.h"
 #include "fighters/SkillTable.h"
 
@@ -15,6 +17,19 @@ Entity_GymFighter manWithAll(int value)
     return man;
 }
 
+struct Change {
+    const char *name;
+    int skill, counter, attributeMove;
+    const char *line;
+};
+const Change changes[] = {
+    {"200 levels up", SkillTable::AttackSpeed, 200, 1, "Attack Speed level up!"},
+    {"beyond 200 is lost", SkillTable::Jab, 231, 1, "Jab level up!"},
+    {"199 doesn't", SkillTable::Jab, 199, 0, ""},
+    {"-150 levels down", SkillTable::LowKick, -150, -1, "Low Kick level down."},
+    {"-149 doesn't", SkillTable::LowKick, -149, 0, ""},
+};
+
 } // namespace
 
 class tst_Skills : public QObject
@@ -23,29 +38,12 @@ class tst_Skills : public QObject
 
 private slots:
     // the counter's limits and the lines of the day's report
-    void levelChanges_data()
-    {
-        QTest::addColumn<int>("skill");
-        QTest::addColumn<int>("counter");
-        QTest::addColumn<int>("attributeMove");
-        QTest::addColumn<QStringList>("report");
-
-        QTest::newRow("200 levels up") << int(SkillTable::AttackSpeed) << 200 << 1
-                                       << QStringList{"Attack Speed level up!"};
-        QTest::newRow("beyond 200 is lost") << int(SkillTable::Jab) << 231 << 1 << QStringList{"Jab level up!"};
-        QTest::newRow("199 doesn't") << int(SkillTable::Jab) << 199 << 0 << QStringList{};
-        QTest::newRow("-150 levels down")
-            << int(SkillTable::LowKick) << -150 << -1 << QStringList{"Low Kick level down."};
-        QTest::newRow("-149 doesn't") << int(SkillTable::LowKick) << -149 << 0 << QStringList{};
-        QTest::newRow("between the limits") << int(SkillTable::Focus) << 0 << 0 << QStringList{};
-    }
-
+    void levelChanges_data() { TableRows::add(changes); }
     void levelChanges()
     {
-        QFETCH(int, skill);
-        QFETCH(int, counter);
-        QFETCH(int, attributeMove);
-        QFETCH(QStringList, report);
+        const Change &row = TableRows::current(changes);
+        const int skill = row.skill, counter = row.counter, attributeMove = row.attributeMove;
+        const QStringList report = *row.line ? QStringList{row.line} : QStringList{};
         Entity_GymFighter man = manWithAll(50);
         man.skillProgress[skill] = counter;
         QStringList lines;

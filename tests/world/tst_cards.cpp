@@ -93,50 +93,40 @@ private slots:
             QVERIFY(card.holdsFighter(id));
     }
 
+    // which parts count as filled: the undercard, the whole card, the singles, the titles and
+    // the tournament slots, in this order
     void fillTests_data()
     {
         QTest::addColumn<Entity_Event>("card");
-        QTest::addColumn<bool>("undercard");
-        QTest::addColumn<bool>("whole");
-        QTest::addColumn<bool>("singles");
-        QTest::addColumn<bool>("titles");
-        QTest::addColumn<bool>("tournamentSlots");
-
+        QTest::addColumn<QString>("filled");
         const Entity_Match full = slot(Single, "A A", 1, "B B", 2);
+        const Entity_Match title = slot(Title, "C C", 3, "D D", 4);
         QTest::newRow("one open match is its own main event")
-            << makeEvent("One", "G-1", night, {slot(Single)}) << true << false << false << true << true;
+            << makeEvent("1", "G-1", night, {slot(Single)}) << "10011";
         QTest::newRow("half-filled title fight as main event")
-            << makeEvent("Two", "G-1", night, {full, slot(Title, "C C", 3)}) << true << false << true << false << true;
-        QTest::newRow("open undercard") << makeEvent("Three", "G-1", night,
-                                                     {slot(Single), slot(Title, "C C", 3, "D D", 4)})
-                                        << false << false << false << true << true;
-        QTest::newRow("full card") << makeEvent("Four", "G-1", night, {full, slot(Title, "C C", 3, "D D", 4)}) << true
-                                   << true << true << true << true;
-        QTest::newRow("open qualifier") << makeEvent("Five", "G-1", night, {slot(Qualifier, "E E", 5), full}) << false
-                                        << false << true << true << false;
+            << makeEvent("2", "G-1", night, {full, slot(Title, "C C", 3)}) << "10101";
+        QTest::newRow("open undercard") << makeEvent("3", "G-1", night, {slot(Single), title}) << "00011";
+        QTest::newRow("full card") << makeEvent("4", "G-1", night, {full, title}) << "11111";
+        QTest::newRow("open qualifier") << makeEvent("5", "G-1", night, {slot(Qualifier, "E E", 5), full}) << "00110";
         // the later rounds fill while the night runs and don't count
         Entity_Event finals = finalsNight();
         for (int i = 1; i < 4; ++i) {
             QVERIFY(finals.addFighter(100 + i, "Q One", Quarter, false));
             QVERIFY(finals.addFighter(200 + i, "Q Two", Quarter, false));
         }
-        QTest::newRow("finals night with its later rounds open") << finals << false << false << true << true << true;
-        QTest::newRow("empty card") << Entity_Event() << true << true << true << true << true;
+        QTest::newRow("finals night with its later rounds open") << finals << "00111";
+        QTest::newRow("empty card") << Entity_Event() << "11111";
     }
-
     void fillTests()
     {
         QFETCH(Entity_Event, card);
-        QFETCH(bool, undercard);
-        QFETCH(bool, whole);
-        QFETCH(bool, singles);
-        QFETCH(bool, titles);
-        QFETCH(bool, tournamentSlots);
-        QCOMPARE(card.undercardFilled(), undercard);
-        QCOMPARE(card.cardFilled(), whole);
-        QCOMPARE(card.singlesFilled(), singles);
-        QCOMPARE(card.championshipsFilled(), titles);
-        QCOMPARE(card.tournamentSlotsFilled(), tournamentSlots);
+        QFETCH(QString, filled);
+        const QList<bool> tests{card.undercardFilled(), card.cardFilled(), card.singlesFilled(),
+                                card.championshipsFilled(), card.tournamentSlotsFilled()};
+        QString read;
+        for (bool test : tests)
+            read += test ? '1' : '0';
+        QCOMPARE(read, filled);
     }
 
     // the main event names the night as it fills up
@@ -191,25 +181,24 @@ private slots:
         QTest::addColumn<QString>("title");
         QTest::addColumn<QDate>("date");
 
-        QTest::newRow("the year in a name") << fightNight("G-1 Spring 2011") << "G-1 Spring 2012"
-                                            << "No Title" << QDate(2012, 5, 14);
-        QTest::newRow("a name without a year") << fightNight("G-1 Spring") << "G-1 Spring"
-                                               << "No Title" << QDate(2012, 5, 14);
-        QTest::newRow("a named main event") << fightNight("G-1: Egan vs. Ford") << "G-1 Event"
-                                            << "No Title" << QDate(2012, 5, 14);
+        const QDate nextYear(2012, 5, 14);
+        const QString none = "No Title";
+        QTest::newRow("the year in a name")
+            << fightNight("G-1 Spring 2011") << QString("G-1 Spring 2012") << none << nextYear;
+        QTest::newRow("a name without a year") << fightNight("G-1 Spring") << QString("G-1 Spring") << none << nextYear;
+        QTest::newRow("a named main event")
+            << fightNight("G-1: Egan vs. Ford") << QString("G-1 Event") << none << nextYear;
+        const QString belt = "G-1 World Championship";
         QTest::newRow("a named title fight")
-            << makeEvent("G-1: Egan vs. TBA", "G-1", night, {slot(Single), slot(Title, "E E", 15)},
-                         "G-1 World Championship")
-            << "G-1 Championship Fight"
-            << "G-1 World Championship" << QDate(2012, 5, 14);
-        QTest::newRow("tournament title moves its year") << finalsNight() << "GKO Grand Prix 2012"
-                                                         << "GKO Grand Prix 2012" << QDate(2012, 5, 14);
+            << makeEvent("G-1: Egan vs. TBA", "G-1", night, {slot(Single), slot(Title, "E E", 15)}, belt)
+            << QString("G-1 Championship Fight") << belt << nextYear;
+        QTest::newRow("tournament title moves its year")
+            << finalsNight() << QString("GKO Grand Prix 2012") << QString("GKO Grand Prix 2012") << nextYear;
         QTest::newRow("title of a plain night keeps its year")
-            << makeEvent("G-1 Gala 2011", "G-1", night, {slot(Title)}, "G-1 World Championship 2011") << "G-1 Gala 2012"
-            << "G-1 World Championship 2011" << QDate(2012, 5, 14);
+            << makeEvent("G-1 Gala 2011", "G-1", night, {slot(Title)}, belt + " 2011") << QString("G-1 Gala 2012")
+            << belt + " 2011" << nextYear;
         QTest::newRow("29 February") << makeEvent("Leap Night 2012", "G-1", QDate(2012, 2, 29), {slot(Single)})
-                                     << "Leap Night 2013"
-                                     << "No Title" << QDate(2013, 2, 28);
+                                     << QString("Leap Night 2013") << none << QDate(2013, 2, 28);
     }
 
     void rollOver()

@@ -1,4 +1,5 @@
 #include "WorldSamples.h"
+#include "fighters/TableRows.h"
 
 #include "fighters/MatchStatus.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 GameManager &world()
 {
-    return GameManager::instance();
+    return game();
 }
 
 const QDate today(2011, 3, 1);
@@ -61,6 +62,23 @@ World smallWorld()
     w.amateurs.insert(8000, fighter(41, "Ike", "Ide", 8000));
     return w;
 }
+
+// a win raises the manager's reputation past 100, a defeat takes it below: the entry after the
+// man's name; the money, the gym's prestige and the manager's reputation after it
+struct Outcome {
+    const char *name, *entry;
+    int money, prestige, reputation;
+};
+const Outcome outcomes[] = {
+    {"a knock-out win pays double", "KO(Knee) - Rd. 1(2:02) - G-1: G-1 Spring Gala", 12000, 116, 105},
+    {"a decision win", "Split Decision - Rd. 3(3:00) - G-1: Gala", 12000, 108, 105},
+    {"a title fight by its name", "Split Decision - Rd. 3(3:00) - G-1: Gala|G-1 World Championship", 12000, 108, 120},
+    {"a tournament title by its year", "Split Decision - Rd. 3(3:00) - G-1: Gala|G-1 Grand Prix 2011", 12000, 108, 120},
+    {"the year in the night's name makes no title", "Split Decision - Rd. 3(3:00) - G-1: Gala 2011", 12000, 108, 105},
+    {"a knockout word in the organisation's name", "Split Decision - Rd. 3(3:00) - GKO: Gala", 12000, 108, 105},
+    {"a knock-out defeat pays once", "TKO(Low Kick) - Rd. 2(1:00) - G-1: Gala", 11000, 95, 95},
+    {"a decision defeat", "Majority Decision - Rd. 3(3:00) - G-1: Gala", 11000, 98, 95},
+};
 
 } // namespace
 
@@ -122,41 +140,11 @@ private slots:
         QCOMPARE(world().managerRecord().value(Entity_Manager::OverallWins), 2);
     }
 
-    void theOutcomeOfAFightNight_data()
-    {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<int>("money");
-        QTest::addColumn<int>("prestige");
-        QTest::addColumn<int>("reputation");
-        QTest::addColumn<bool>("levelUp");
-
-        QTest::newRow("a knock-out win pays double")
-            << "Win: Al Ames - KO(Knee) - Rd. 1(2:02) - G-1: G-1 Spring Gala" << 12000 << 116 << 105 << true;
-        QTest::newRow("a decision win") << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala" << 12000 << 108
-                                        << 105 << true;
-        QTest::newRow("a title fight by its name")
-            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala|G-1 World Championship" << 12000 << 108 << 120
-            << true;
-        QTest::newRow("a tournament title by its year")
-            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala|G-1 Grand Prix 2011" << 12000 << 108 << 120
-            << true;
-        QTest::newRow("the year in the night's name makes no title")
-            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - G-1: Gala 2011" << 12000 << 108 << 105 << true;
-        QTest::newRow("a knockout word in the organisation's name")
-            << "Win: Al Ames - Split Decision - Rd. 3(3:00) - GKO: Gala" << 12000 << 108 << 105 << true;
-        QTest::newRow("a knock-out defeat pays once")
-            << "Loss: Al Ames - TKO(Low Kick) - Rd. 2(1:00) - G-1: Gala" << 11000 << 95 << 95 << false;
-        QTest::newRow("a decision defeat")
-            << "Loss: Al Ames - Majority Decision - Rd. 3(3:00) - G-1: Gala" << 11000 << 98 << 95 << false;
-    }
-
+    void theOutcomeOfAFightNight_data() { TableRows::add(outcomes); }
     void theOutcomeOfAFightNight()
     {
-        QFETCH(QString, entry);
-        QFETCH(int, money);
-        QFETCH(int, prestige);
-        QFETCH(int, reputation);
-        QFETCH(bool, levelUp);
+        const Outcome &row = TableRows::current(outcomes);
+        const QString entry = QString(row.reputation > 100 ? "Win" : "Loss") + ": Al Ames - " + row.entry;
         World w = smallWorld();
         QList<int> values = w.gym.values();
         values[Entity_Gym::PrestigePoints] = 100;
@@ -165,12 +153,12 @@ private slots:
 
         QList<int> statistics(MatchStatus::Count, 0);
         statistics[MatchStatus::JabLanded] = 12;
-        QCOMPARE(world().applyMatchOutcome(statistics, 1050, entry), levelUp);
+        QCOMPARE(world().applyMatchOutcome(statistics, 1050, entry), row.reputation > 100);
         const Entity_Gym gym = world().gymRecord();
-        QCOMPARE(gym.money(), money);
-        QCOMPARE(gym.ledgerEntry(Entity_Gym::FighterPurses), money - 10000);
-        QCOMPARE(gym.value(Entity_Gym::PrestigePoints), prestige);
-        QCOMPARE(world().managerRecord().value(Entity_Manager::ReputationValue), reputation);
+        QCOMPARE(gym.money(), row.money);
+        QCOMPARE(gym.ledgerEntry(Entity_Gym::FighterPurses), row.money - 10000);
+        QCOMPARE(gym.value(Entity_Gym::PrestigePoints), row.prestige);
+        QCOMPARE(world().managerRecord().value(Entity_Manager::ReputationValue), row.reputation);
         QVERIFY(world().fighterById(1050).skillProgress[0] > 0);
         QVERIFY(!world().applyMatchOutcome(statistics, 4242, entry));
     }

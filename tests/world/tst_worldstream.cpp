@@ -58,6 +58,16 @@ World fullWorld()
     return w;
 }
 
+// the parts one after the other, as a stream of the save's version writes them
+template <typename... Parts> QByteArray bytesOf(const Parts &...parts)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamForm::version);
+    (out << ... << parts);
+    return bytes;
+}
+
 QByteArray withWord(QByteArray bytes, int at, quint32 word)
 {
     QByteArray replacement;
@@ -86,49 +96,29 @@ private slots:
     // each record is its pack, part after part, in the stream forms of Qt's own lists
     void recordsKeepTheirLayout()
     {
-        QByteArray expected;
-        QDataStream out(&expected, QIODevice::WriteOnly);
-        out.setVersion(StreamForm::version);
-        out << QStringList{"Al Ames", "TBA", "Tournament Final", "TBA"} << qint32(11) << qint32(0) << true;
-        QCOMPARE(streamed(slot("Tournament Final", "Al Ames", 11, "TBA", 0, true)).toHex(), expected.toHex());
-
-        expected.clear();
-        QDataStream booking(&expected, QIODevice::WriteOnly);
-        booking.setVersion(StreamForm::version);
-        booking << qint32(0) << QStringList{"N/A", "N/A", "N/A"} << QDate(1999, 1, 1);
-        QCOMPARE(streamed(Entity_Booking()).toHex(), expected.toHex());
+        QCOMPARE(
+            streamed(slot("Tournament Final", "Al Ames", 11, "TBA", 0, true)).toHex(),
+            bytesOf(QStringList{"Al Ames", "TBA", "Tournament Final", "TBA"}, qint32(11), qint32(0), true).toHex());
+        QCOMPARE(streamed(Entity_Booking()).toHex(),
+                 bytesOf(qint32(0), QStringList{"N/A", "N/A", "N/A"}, QDate(1999, 1, 1)).toHex());
         QCOMPARE(Entity_Booking().dateText(), QString("N/A"));
-
-        expected.clear();
-        QDataStream event(&expected, QIODevice::WriteOnly);
-        event.setVersion(StreamForm::version);
         const Entity_Event night = titleNight();
-        event << QStringList{"G-1: Ames vs. TBA", "G-1", "Tokyo", "Elite", "Fight Night", "G-1 World Championship"}
-              << QDate(2011, 8, 6) << quint32(2);
-        expected += streamed(night.matchAt(0)) + streamed(night.matchAt(1));
-        event.device()->seek(expected.size());
-        event << night.results() << true;
-        QCOMPARE(streamed(night).toHex(), expected.toHex());
-
+        const QStringList eventStrings{"G-1: Ames vs. TBA",     "G-1", "Tokyo", "Elite", "Fight Night",
+                                       "G-1 World Championship"};
+        QCOMPARE(streamed(night).toHex(),
+                 (bytesOf(eventStrings, QDate(2011, 8, 6), quint32(2)) + streamed(night.matchAt(0)) +
+                  streamed(night.matchAt(1)) + bytesOf(night.results(), true))
+                     .toHex());
         // the gym: 5 strings, 26 values, 8 entries of the ledger; the manager: 5, 23 and his titles
-        expected.clear();
-        QDataStream gym(&expected, QIODevice::WriteOnly);
-        gym.setVersion(StreamForm::version);
+        const QStringList fiveStrings{QString(), QString(), QString(), QString(), "Unknown"};
         QList<qint32> values(26, 0);
         values[Entity_Gym::Money] = 10000;
         values[Entity_Gym::StudentSlots] = 3;
         values[Entity_Gym::FighterSlots] = 1;
-        gym << QStringList{QString(), QString(), QString(), QString(), "Unknown"} << values << QList<qint32>(8, 0);
-        QCOMPARE(streamed(Entity_Gym()).toHex(), expected.toHex());
-
-        expected.clear();
-        QDataStream manager(&expected, QIODevice::WriteOnly);
-        manager.setVersion(StreamForm::version);
-        manager << QStringList{QString(), QString(), QString(), QString(), "Unknown"} << QList<qint32>(23, 0)
-                << QStringList{"T"};
+        QCOMPARE(streamed(Entity_Gym()).toHex(), bytesOf(fiveStrings, values, QList<qint32>(8, 0)).toHex());
         Entity_Manager withTitle;
         withTitle.unpack(withTitle.strings(), withTitle.values(), {"T"});
-        QCOMPARE(streamed(withTitle).toHex(), expected.toHex());
+        QCOMPARE(streamed(withTitle).toHex(), bytesOf(fiveStrings, QList<qint32>(23, 0), QStringList{"T"}).toHex());
     }
 
     void aWholeWorldSavesTheSameBytesTwice()
