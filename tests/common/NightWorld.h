@@ -37,8 +37,7 @@ struct Setup {
 // every attribute at `level`; a stayer's durabilities are out of reach
 template <typename Man> void setLevel(Man &man, int level, bool stayer, bool unbreakable = false)
 {
-    for (int field = Entity_Fighter::FirstAttribute; field <= Entity_Fighter::LastAttribute; ++field)
-        man.setNumber(Entity_Fighter::Number(field), stayer ? 0 : level);
+    WorldSamples::setAll(man, stayer ? 0 : level);
     man.setNumber(Entity_Fighter::HeadDurability, stayer || unbreakable ? 1000 : level);
     man.setNumber(Entity_Fighter::BodyDurability, stayer || unbreakable ? 1000 : level);
     man.setText(Entity_Fighter::Nationality, "Japan");
@@ -96,12 +95,7 @@ inline bool load(const Setup &setup = Setup())
 
 inline QStringList storedResults()
 {
-    QList<Entity_Event> calendar;
-    GameManager::instance().organisation(Org).events(calendar);
-    for (const Entity_Event &event : std::as_const(calendar))
-        if (event.name() == NightName)
-            return event.results();
-    return {};
+    return WorldSamples::eventNamed(Org, NightName).results();
 }
 
 } // namespace NightWorld

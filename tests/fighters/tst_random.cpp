@@ -33,17 +33,6 @@ private slots:
         QVERIFY(drawSequence(1000) != first);
     }
 
-    void realClockVaries()
-    {
-        Random::useRealClock();
-        QSet<int> values;
-        for (int i = 0; i < 200; ++i) {
-            QTest::qWait(0);
-            values.insert(drawSequence(1).first());
-        }
-        QVERIFY(values.size() > 10);
-    }
-
     void stirOfNothingLeavesTheGenerator()
     {
         Random::useTestClock(5);

@@ -44,32 +44,19 @@ class tst_Ratings : public QObject
     Q_OBJECT
 
 private slots:
-    // the weights of each row add up to 100 but in Positioning (95) and Counter (105)
-    void evenAttributes_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("usual");
-        QTest::addColumn<int>("positioning");
-        QTest::addColumn<int>("counter");
-
-        QTest::newRow("all 0 shows 0") << 0 << 0 << 0 << 0;
-        QTest::newRow("all 99 shows 99, Positioning 94, Counter 103") << 99 << 99 << 94 << 103;
-        // a man fresh from the generator, not yet clamped: -950 / 100 is -9, not -10
-        QTest::newRow("all -10 truncates towards 0") << -10 << -10 << -9 << -10;
-    }
-
+    // the weights of each row add up to 100 but in Positioning (95) and Counter (105); a man fresh
+    // from the generator, not yet clamped, truncates towards 0: -950 / 100 is -9, not -10
     void evenAttributes()
     {
-        QFETCH(int, value);
-        QFETCH(int, usual);
-        QFETCH(int, positioning);
-        QFETCH(int, counter);
-        const Ratings::Values ratings = Ratings::of(manWithAll(value));
-        for (int r = 0; r < Ratings::Count; ++r) {
-            const int expected = r == ratingNamed("Positioning") ? positioning
-                                 : r == ratingNamed("Counter")   ? counter
-                                                                 : usual;
-            QVERIFY2(ratings[r] == expected, qPrintable(Ratings::label(r) + ": " + QString::number(ratings[r])));
+        const int rows[][4] = {{0, 0, 0, 0}, {99, 99, 94, 103}, {-10, -10, -9, -10}};
+        for (const auto &[value, usual, positioning, counter] : rows) {
+            const Ratings::Values ratings = Ratings::of(manWithAll(value));
+            for (int r = 0; r < Ratings::Count; ++r) {
+                const int expected = r == ratingNamed("Positioning") ? positioning
+                                     : r == ratingNamed("Counter")   ? counter
+                                                                     : usual;
+                QVERIFY2(ratings[r] == expected, qPrintable(Ratings::label(r) + ": " + QString::number(ratings[r])));
+            }
         }
     }
 

@@ -69,11 +69,8 @@ const Amount amounts[] = {
     {"main, 9 fatigue still rolls below 20", 10, 0, 0, 9, Main, 0, 19},
     {"main, 10 fatigue rolls below 19", 10, 0, 0, 10, Main, 0, 18},
     {"main, at 100 fatigue the roll is halved", 10, 0, 0, 100, Main, 0, 9},
-    {"main, a trainer of 5", 5, 3, 1, 0, Main, 4, 13},
     {"side, the bag doesn't count", 10, 0, 2, 0, Side, 2, 11},
-    {"side, at 100 fatigue", 10, 0, 0, 100, Side, 0, 4},
     {"fading, no trainer, no bag", 0, 0, 0, 0, Fading, -11, -6},
-    {"fading, the best trainer and bag", 10, 10, 2, 0, Fading, -1, -1},
     {"fading doesn't tire", 0, 0, 0, 100, Fading, -11, -6},
 };
 

@@ -28,17 +28,12 @@ const QRegularExpression NewsLine(
     "^Booked (.+) for a (Championship Match|Single Match|Tournament Qualifier|Tournament Quarterfinal) at (.+)$");
 
 // roster position p: ranking score 100 (p + 1); the user's man of position p stands just behind him
-QList<Entity_Fighter> rosterOf(int size, const QString &org = Org, int idBase = 100)
+QList<Entity_Fighter> rosterOf(int size)
 {
     QList<Entity_Fighter> men;
     for (int p = 0; p < size; ++p)
-        men.append(fighter(idBase + p, "Ken", Callsigns.at(p % 26) + QString(p / 26, 'x'), 100 * (p + 1), org));
+        men.append(fighter(100 + p, "Ken", Callsigns.at(p % 26) + QString(p / 26, 'x'), 100 * (p + 1), Org));
     return men;
-}
-
-Entity_GymFighter gymMan(int id, const QString &last, int position, const QString &org = Org)
-{
-    return gymFighter(id, "Jo", last, 100 * (position + 1) + 50, org, 5, 1000);
 }
 
 QList<Entity_Match> cardOf(const QStringList &types)
@@ -49,7 +44,8 @@ QList<Entity_Match> cardOf(const QStringList &types)
     return card;
 }
 
-Entity_Org::Titles titlesOf(const QStringList &rows)
+// "title=holder" rows
+Entity_Org::Titles titleRows(const QStringList &rows)
 {
     Entity_Org::Titles titles;
     for (const QString &row : rows)
@@ -59,26 +55,14 @@ Entity_Org::Titles titlesOf(const QStringList &rows)
 
 Entity_Event nextNight()
 {
-    return GameManager::instance().organisation(Org).nextEvent(GameManager::instance().getCurrentDate());
+    return game().organisation(Org).nextEvent(game().getCurrentDate());
 }
 
-int placesTaken(const Entity_Event &night)
+int placesTaken()
 {
     int taken = 0;
-    for (const Entity_Match &match : night.matches())
+    for (const Entity_Match &match : nextNight().matches())
         taken += (match.fighterOne() != "TBA") + (match.fighterTwo() != "TBA");
-    return taken;
-}
-
-int allPlacesTaken()
-{
-    int taken = 0;
-    for (const QString &name : GameManager::instance().organisationNames()) {
-        QList<Entity_Event> calendar;
-        GameManager::instance().organisation(name).events(calendar);
-        for (const Entity_Event &night : std::as_const(calendar))
-            taken += placesTaken(night);
-    }
     return taken;
 }
 
@@ -92,46 +76,29 @@ QString placeOf(const Entity_Event &night, int id)
     return Off;
 }
 
-QList<Entity_GymFighter> usersMen()
-{
-    QList<Entity_GymFighter> men;
-    for (int id : GameManager::instance().fighterIds())
-        men.append(GameManager::instance().fighterById(id));
-    return men;
-}
-
-// What is wrong with a card of the running world: a man twice, a man where his position may not
-// go, the user's link to a night under an old name, two of his men on it. Empty when sound.
+// What is wrong with the card: a man twice, a man where his position may not go, the user's
+// link to the night under an old name, the user's flag. Empty when sound.
 QString faultsOf(const Entity_Event &night)
 {
-    const Entity_Org org = GameManager::instance().organisation(night.organisationName());
     Entity_Org::Roster roster;
-    Entity_Org::Titles titles;
-    org.rosterCopy(roster);
-    org.titlesCopy(titles);
-    const QList<Entity_Fighter> ranked = roster.values();
-    const auto positionOf = [&](const Entity_Fighter &man) {
-        return int(std::count_if(ranked.cbegin(), ranked.cend(),
-                                 [&](const Entity_Fighter &m) { return m.getRankingScore() < man.getRankingScore(); }));
-    };
+    game().organisation(Org).rosterCopy(roster);
+    const QString title = titlesOf(Org).value(titlesOf(Org).firstKey());
     QMap<int, std::pair<int, bool>> men; // id to position and whether he is the user's
-    for (int p = 0; p < ranked.size(); ++p)
-        men.insert(ranked.at(p).getId(), {p, false});
-    int usersMenOnCard = 0;
-    for (const Entity_GymFighter &man : usersMen()) {
-        if (man.text(Entity_Fighter::Organisation) == org.name())
-            men.insert(man.getId(), {positionOf(man) - 1, true});
-        if (!night.holdsFighter(man.getId()))
-            continue;
-        ++usersMenOnCard;
-        // his link names a night ahead as it is called now
+    const QList<int> scores = roster.keys();
+    for (int p = 0; p < scores.size(); ++p)
+        men.insert(roster.value(scores[p]).getId(), {p, false});
+    const Entity_GymFighter user = game().fighterById(900);
+    if (user.getId() == 900) {
+        const int ahead = int(
+            std::count_if(scores.cbegin(), scores.cend(), [&](int score) { return score < user.getRankingScore(); }));
+        men.insert(900, {ahead - 1, true});
+        // his link names the night as it is called now
         const QString link = night.name() + " - " + night.date().toString(Qt::TextDate);
-        const bool ahead = night.date() >= GameManager::instance().getCurrentDate();
-        if (ahead && GameManager::instance().bookingsByFighter().value(man.fullName()) != link)
-            return man.fullName() + " keeps an old link";
+        if (night.holdsFighter(900) && game().bookingsByFighter().value(user.fullName()) != link)
+            return "Jo Storm keeps an old link";
     }
-    if (usersMenOnCard > 1 || (usersMenOnCard == 1) != night.isUserBooked())
-        return "the user's men and the flag disagree";
+    if (night.holdsFighter(900) != night.isUserBooked())
+        return "the user's man and the flag disagree";
     const bool ruled = night.hasChampionship() || night.hasQualifier() || night.hasTournamentRounds();
     QList<int> seen;
     for (int i = 0; i < night.matchCount(); ++i) {
@@ -140,18 +107,16 @@ QString faultsOf(const Entity_Event &night)
              {std::pair(m.fighterOneId(), m.fighterOne()), std::pair(m.fighterTwoId(), m.fighterTwo())}) {
             if (id == 0 || !men.contains(id))
                 continue;
-            if (seen.contains(id) && m.matchType() != Entity_Match::TournamentSemifinal &&
-                m.matchType() != Entity_Match::TournamentFinal)
+            const QString type = m.matchType();
+            if (seen.contains(id) && type != Entity_Match::TournamentSemifinal && type != Entity_Match::TournamentFinal)
                 return name + " twice";
             seen.append(id);
             const auto [p, users] = men.value(id);
-            const bool mainEvent = i == night.matchCount() - 1;
-            const QString type = m.matchType();
-            const bool fits = type == T ? p < 10 || name == titles.value(titles.firstKey())
+            const bool fits = type == T                                      ? p < 10 || name == title
                               : type == Entity_Match::TournamentQualifier    ? p < 16
                               : type == Entity_Match::TournamentQuarterfinal ? p < 8
                               : type != S                                    ? true
-                              : !mainEvent                                   ? p >= 5
+                              : i < night.matchCount() - 1                   ? p >= 5
                               : users                                        ? p < 5
                                                                              : ruled || p < 10;
             if (!fits)
@@ -159,12 +124,6 @@ QString faultsOf(const Entity_Event &night)
         }
     }
     return {};
-}
-
-// the offers of the running world
-QList<Entity_Booking> currentOffers()
-{
-    return GameManager::instance().state().offers;
 }
 
 // One promotion, one night ahead, and what a day of booking must make of it.
@@ -194,11 +153,11 @@ struct Scene {
         QList<Entity_Match> cards = card;
         QList<Entity_GymFighter> men;
         if (userPosition != -99)
-            men.append(gymMan(900, "Storm", userPosition));
+            men.append(gymFighter(900, "Jo", "Storm", 100 * (userPosition + 1) + 50, Org, 5, 1000));
         if (userOnUndercard)
             cards[0] = slot(S, "Jo Storm", 900, "TBA", 0, true);
         const Entity_Event night = bookedEvent(makeEvent(name, Org, Today.addDays(daysOut), cards), userOnUndercard);
-        w.organisations = {organisation(Org, {night}, rosterOf(rosterSize), titlesOf(titles))};
+        w.organisations = {organisation(Org, {night}, rosterOf(rosterSize), titleRows(titles))};
         w.fighters = men;
         for (const Entity_GymFighter &man : men)
             w.bookings.append(userOnUndercard ? Entity_Booking(900, man.fullName(), name, Org, night.date())
@@ -306,15 +265,15 @@ private slots:
         QStringList userPlaces;
         for (quint32 seed = 1; seed <= 8; ++seed) {
             QVERIFY(scene.world().load());
-            const int before = allPlacesTaken();
+            const int before = placesTaken();
             Random::useTestClock(seed);
-            WorldState world = GameManager::instance().state();
+            WorldState world = game().state();
             BookingRound round(world);
             const QStringList news = round.run();
-            GameManager::instance().takeWorld(world);
+            game().takeWorld(world);
             const Entity_Event night = nextNight();
 
-            QCOMPARE(allPlacesTaken() - before, int(news.size()));
+            QCOMPARE(placesTaken() - before, int(news.size()));
             for (const QString &line : news) {
                 QVERIFY2(NewsLine.match(line).hasMatch(), qPrintable(line));
                 QVERIFY(scene.absent.isEmpty() || !line.contains(scene.absent));
@@ -334,7 +293,7 @@ private slots:
                                            .replace("%1", main.fighterOne().section(' ', -1))
                                            .replace("%2", main.fighterTwo().section(' ', -1)));
             if (scene.offersLeft >= 0)
-                QCOMPARE(int(currentOffers().size()), scene.offersLeft);
+                QCOMPARE(int(game().state().offers.size()), scene.offersLeft);
             userPlaces.append(placeOf(night, 900));
             QVERIFY2(scene.userAllowed.isEmpty() || scene.userAllowed.contains(userPlaces.last()),
                      qPrintable(userPlaces.last()));

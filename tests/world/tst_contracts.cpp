@@ -104,7 +104,6 @@ const Money monies[] = {
     {"one fight above 1500 gets none", "National", 250, 0, 0, 1, 1506},
     {"mood -11 takes a tenth", "Elite", 199, 0, -11, 3, 1800},
     {"mood -10 takes a twentieth", "Elite", 199, 0, -10, 3, 1900},
-    {"mood 5 leaves it", "World Class", 249, 0, 5, 3, 2000},
     {"mood 6 adds a twentieth", "International", 499, 0, 6, 3, 3150},
     {"one fight, a bad mood, then the floor", "Elite", 99, 0, -11, 1, 1500 + 1350},
 };

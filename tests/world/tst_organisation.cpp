@@ -72,7 +72,6 @@ private slots:
         QFETCH(int, delta);
         QFETCH(QList<int>, order);
         Entity_Org org = promotion();
-        QCOMPARE(org.rosterSize(), 3);
         org.addRankingScore(id, delta);
         QCOMPARE(org.rosterSize(), 3);
         QCOMPARE(idsInKeyOrder(org), order);
@@ -103,40 +102,32 @@ private slots:
         QCOMPARE(titlesOf(org).keys(), left);
     }
 
+    // Al holds last year's tournament and two other rows: the first of those in key order goes
     void retirement_data()
     {
         QTest::addColumn<int>("id");
         QTest::addColumn<QDate>("day");
         QTest::addColumn<bool>("retired");
-        QTest::addColumn<QStringList>("holders"); // in key order of the titles
-
-        // Al holds last year's tournament and two other rows: the first of those in key order goes
-        QTest::newRow("before his next card")
-            << 11 << QDate(2011, 6, 1) << true << QStringList{"Al Ames", "Vacant", "Al Ames", "Bo Bell"};
-        QTest::newRow("on the day of a show")
-            << 11 << QDate(2011, 6, 8) << false << QStringList{"Al Ames", "Al Ames", "Al Ames", "Bo Bell"};
-        QTest::newRow("after the last night of the year")
-            << 11 << QDate(2011, 12, 1) << true << QStringList{"Al Ames", "Vacant", "Al Ames", "Bo Bell"};
-        QTest::newRow("a man without a title")
-            << 13 << QDate(2011, 6, 1) << true << QStringList{"Al Ames", "Al Ames", "Al Ames", "Bo Bell"};
-        QTest::newRow("a man of another roster")
-            << 99 << QDate(2011, 6, 1) << false << QStringList{"Al Ames", "Al Ames", "Al Ames", "Bo Bell"};
+        QTest::addColumn<QString>("holders"); // in key order of the titles
+        QTest::newRow("before his next card") << 11 << QDate(2011, 6, 1) << true << "Al, Vacant, Al, Bo";
+        QTest::newRow("on the day of a show") << 11 << QDate(2011, 6, 8) << false << "Al, Al, Al, Bo";
+        QTest::newRow("after the last night of the year") << 11 << QDate(2011, 12, 1) << true << "Al, Vacant, Al, Bo";
+        QTest::newRow("a man without a title") << 13 << QDate(2011, 6, 1) << true << "Al, Al, Al, Bo";
+        QTest::newRow("a man of another roster") << 99 << QDate(2011, 6, 1) << false << "Al, Al, Al, Bo";
     }
-
     void retirement()
     {
         QFETCH(int, id);
         QFETCH(QDate, day);
         QFETCH(bool, retired);
-        QFETCH(QStringList, holders);
+        QFETCH(QString, holders);
         Entity_Org org = promotion({{"G-1 Grand Prix 2010", "Al Ames"},
                                     {"G-1 Middleweight Title", "Al Ames"},
                                     {"G-1 World Championship", "Al Ames"},
                                     {"G-1 Zeta Belt", "Bo Bell"}});
-        const int before = org.rosterSize();
         QCOMPARE(org.retireRosterFighter(id, 2010, day), retired);
-        QCOMPARE(titlesOf(org).values(), holders);
-        QCOMPARE(org.rosterSize(), retired ? before - 1 : before);
+        QCOMPARE(titlesOf(org).values().join(", ").replace(" Ames", "").replace(" Bell", ""), holders);
+        QCOMPARE(org.rosterSize(), retired ? 2 : 3);
         QCOMPARE(org.holdsFighter(id), !retired && id != 99);
         // he leaves only the next card of the calendar, the Summer night
         QList<Entity_Event> calendar;

@@ -7,37 +7,17 @@ class tst_RankMove : public QObject
     Q_OBJECT
 
 private slots:
-    // every border of the table, in both columns: `diff` is the winner's score minus the loser's
-    void movesByTheTable_data()
-    {
-        QTest::addColumn<int>("diff");
-        QTest::addColumn<int>("byStoppage");
-        QTest::addColumn<int>("byDecision");
-
-        QTest::newRow("upset by 1000") << 1000 << 500 << 250;
-        QTest::newRow("upset by 303 rounds down") << 303 << 151 << 75;
-        QTest::newRow("upset by 301") << 301 << 150 << 75;
-        QTest::newRow("upset by 300") << 300 << 300 << 150;
-        QTest::newRow("upset by 101") << 101 << 101 << 50;
-        QTest::newRow("upset by 100") << 100 << 100 << 100;
-        QTest::newRow("upset by 1") << 1 << 1 << 1;
-        QTest::newRow("equal scores") << 0 << 300 << 200;
-        QTest::newRow("favourite by 1") << -1 << 198 << 99;
-        QTest::newRow("favourite by 100") << -100 << 0 << 0;
-        QTest::newRow("favourite by 101") << -101 << 99 << 79;
-        QTest::newRow("favourite by 300") << -300 << 33 << 26;
-        QTest::newRow("favourite by 301") << -301 << 23 << 16;
-        QTest::newRow("favourite by 1000") << -1000 << 7 << 5;
-        QTest::newRow("favourite by 8001") << -8001 << 0 << 0;
-    }
-
+    // every border of the table, in both columns: the winner's score minus the loser's, and the
+    // move by a stoppage and by a decision
     void movesByTheTable()
     {
-        QFETCH(int, diff);
-        QFETCH(int, byStoppage);
-        QFETCH(int, byDecision);
-        QCOMPARE(RankMove::points(diff, true), byStoppage);
-        QCOMPARE(RankMove::points(diff, false), byDecision);
+        const int rows[][3] = {{1000, 500, 250}, {303, 151, 75}, {301, 150, 75}, {300, 300, 150}, {101, 101, 50},
+                               {100, 100, 100},  {1, 1, 1},      {0, 300, 200},  {-1, 198, 99},   {-100, 0, 0},
+                               {-101, 99, 79},   {-300, 33, 26}, {-301, 23, 16}, {-1000, 7, 5},   {-8001, 0, 0}};
+        for (const auto &[diff, byStoppage, byDecision] : rows) {
+            QCOMPARE(RankMove::points(diff, true), byStoppage);
+            QCOMPARE(RankMove::points(diff, false), byDecision);
+        }
     }
 
     // the word "Decision" in any form of the verdict makes a decision; every other result stops
