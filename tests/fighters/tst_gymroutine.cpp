@@ -56,9 +56,21 @@ const Morning mornings[] = {
     {"two share 100 on level 2: both pay, the gym ends at -100", 100, 2, 2, true, true, -100},
     {"the second is measured against the morning, not what the first left", 100, 2, 1, true, true, -50},
     {"a gym without the morning's money: both rest", 50, 2, 2, false, false, 50},
-    {"one paid, one not", 100, 1, 3, true, false, 50},
     {"bare equipment is free to a gym with 0", 0, 0, 0, true, true, 0},
     {"a gym in debt cannot pay even that", -10, 0, 0, false, false, -10},
+};
+
+// the row of the age he leaves behind: the least and the most that every attribute moves
+struct Growth {
+    const char *name;
+    int ageBefore, least, most;
+};
+const Growth growths[] = {
+    {"17 turning 18 doesn't grow", 17, 0, 0},   {"18 turning 19: +1 to +3", 18, 1, 3},
+    {"21 turning 22 still +1 to +3", 21, 1, 3}, {"22 turning 23: 0 to +2", 22, 0, 2},
+    {"24 turning 25: 0 to +1", 24, 0, 1},       {"29 turning 30: 0 to +1", 29, 0, 1},
+    {"30 turning 31: his prime", 30, 0, 0},     {"34 turning 35: his prime", 34, 0, 0},
+    {"35 turning 36: 0 to -1", 35, -1, 0},      {"37 turning 38: 0 to -2", 37, -2, 0},
 };
 
 } // namespace
@@ -133,6 +145,35 @@ private slots:
             QCOMPARE(fighters[0].number(F::Number(a)), 50);
             // a student of 18 gains 1 to 3 in every attribute on his birthday
             QCOMPARE(students[0].number(F::Number(a)) > 50, birthday);
+        }
+    }
+    // Over many birthdays the changes fill the row's range from end to end and never leave it;
+    // the numbers beyond the attributes stay as they were, and 99 and 0 stay in range.
+    void growthByAge_data() { TableRows::add(growths); }
+    void growthByAge()
+    {
+        const Growth &row = TableRows::current(growths);
+        int lowest = 99;
+        int highest = -99;
+        for (quint32 seed = 1; seed <= 20; ++seed) {
+            Random::useTestClock(seed);
+            Entity_Fighter man = bornOn(today, row.ageBefore, 50);
+            man.setNumber(F::RankingScore, 4000);
+            man.developOneYear();
+            QCOMPARE(man.number(F::Age), row.ageBefore + 1);
+            for (int a = F::FirstAttribute; a <= F::LastAttribute; ++a) {
+                lowest = qMin(lowest, man.number(F::Number(a)) - 50);
+                highest = qMax(highest, man.number(F::Number(a)) - 50);
+            }
+            QCOMPARE(man.number(F::RankingScore), 4000);
+        }
+        QCOMPARE(lowest, row.least);
+        QCOMPARE(highest, row.most);
+        for (const auto &[ageBefore, value] : {std::pair(19, 99), std::pair(40, 0)}) {
+            Entity_Fighter man = bornOn(today, ageBefore, value);
+            man.developOneYear();
+            for (int a = F::FirstAttribute; a <= F::LastAttribute; ++a)
+                QCOMPARE(man.number(F::Number(a)), value);
         }
     }
 };

@@ -32,8 +32,6 @@ private slots:
             << 10 << QList<int>{4, 7} << QList<int>{0, 2, 1, 9} << QList<int>{4, 9} << 8 << QList<int>{10, 10};
         QTest::newRow("a skill at the ceiling cannot rise")
             << 10 << QList<int>{10, 3} << QList<int>{0, 11, 1, 5} << QList<int>{10, 5} << 8 << QList<int>{10, 10};
-        QTest::newRow("ten skill points over three skills") << 10 << QList<int>{1, 2, 3} << QList<int>{0, 6, 1, 6, 2, 9}
-                                                            << QList<int>{6, 6, 4} << 0 << QList<int>{10, 10, 4};
     }
     void boxesNeverSpendMoreThanThePoints()
     {

@@ -170,22 +170,41 @@ private slots:
         QVERIFY2(faults().isEmpty(), qPrintable(faults()));
     }
 
-    // the jobs of a new month and a new year run on the new date, each at most once
+    // the borders of the first row and of the last, in both columns: the winner's score minus the
+    // loser's, and the move by a stoppage and by a decision; "Decision" in any verdict is one
+    void rankMoves()
+    {
+        const int rows[][3] = {{301, 150, 75}, {300, 300, 150}, {-300, 33, 26}, {-301, 23, 16}};
+        for (const auto &[diff, byStoppage, byDecision] : rows) {
+            QCOMPARE(RankMove::points(diff, true), byStoppage);
+            QCOMPARE(RankMove::points(diff, false), byDecision);
+        }
+        QCOMPARE(RankMove::forResult(5301, 5000, "A defeated B by TKO(Low Kick) in 2:00 of Round 3."), 150);
+        QCOMPARE(RankMove::forResult(5000, 5000, "Win: B - Split Decision - Rd. 3(3:00)"), 200);
+    }
+
+    // the jobs of a new month and a new year run on the new date, each at most once; on the second
+    // of the month each training log keeps only its last line
     void calendarJobs_data()
     {
         QTest::addColumn<QDate>("endingDay");
         QTest::addColumn<bool>("monthly");
         QTest::addColumn<bool>("yearly");
-        QTest::newRow("31 December: month and year") << QDate(2011, 12, 31) << true << true;
-        QTest::newRow("30 November: the month") << QDate(2011, 11, 30) << true << false;
-        QTest::newRow("1 January: nothing") << QDate(2012, 1, 1) << false << false;
+        QTest::addColumn<bool>("trimmed");
+        QTest::newRow("31 December: month and year") << QDate(2011, 12, 31) << true << true << false;
+        QTest::newRow("30 November: the month") << QDate(2011, 11, 30) << true << false << false;
+        QTest::newRow("1 January: the logs") << QDate(2012, 1, 1) << false << false << true;
     }
     void calendarJobs()
     {
         QFETCH(QDate, endingDay);
         QFETCH(bool, monthly);
         QFETCH(bool, yearly);
+        QFETCH(bool, trimmed);
         World w = worldWith({});
+        Entity_GymFighter ames = gymFighter(1101, "Al", "Ames", 5000);
+        ames.trainingLog = {"\nRan.", "\nRested."};
+        w.addGym({ames});
         w.currentDate = endingDay;
         const Entity_Event pastNight = makeEvent("Test FC Early Night", Org, QDate(endingDay.year(), 1, 1), {});
         const QString prix = "Test FC Grand Prix " + QString::number(endingDay.year() - 1);
@@ -203,6 +222,7 @@ private slots:
         game().organisation(Org).pastEvents(past);
         QCOMPARE(past.size(), yearly ? 1 : 0);
         QCOMPARE(titlesOf(Org).size(), yearly ? 0 : 1);
+        QCOMPARE(game().fighterById(1101).trainingLog.size(), trimmed ? 1 : 3);
     }
 };
 

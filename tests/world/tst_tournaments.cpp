@@ -134,24 +134,6 @@ private slots:
         QVERIFY(eventNamed(Org, Finals).isUserBooked());
     }
 
-    // The qualifier night through the day: its winners, and nobody else, stand in the quarterfinals.
-    void aQualifierLoserStaysOut()
-    {
-        QVERIFY(worldOf({makeEvent(Qualifiers, Org, Today, qualifierCard()), finalsNight(40, false)}).load());
-        runTheDay();
-        QSet<int> winners;
-        for (int id = 100; id < 116; ++id)
-            if (ResultEntry(newestEntry(id)).isWin())
-                winners.insert(id);
-        QCOMPARE(winners.size(), 8);
-        QSet<int> quarterfinalists;
-        for (const Entity_Match &match : eventNamed(Org, Finals).matches())
-            if (match.matchType() == QF)
-                quarterfinalists << match.fighterOneId() << match.fighterTwoId();
-        QCOMPARE(quarterfinalists, winners);
-        QVERIFY2(faults().isEmpty(), qPrintable(faults()));
-    }
-
     // The finals night through the day: each winner's booking line follows his match in the
     // results, the first two quarterfinal winners meet in the first semifinal, the last two in
     // the second, the semifinal winners in the final in the order that they win, and the
