@@ -188,16 +188,9 @@ private slots:
         s = {}, s.card = titleCard, s.titles = {belt + "Vacant"}, s.daysOut = 20;
         s.firstLine = byTitle.arg("Ken Alpha"), s.nameAfter = "Test FC: Alpha vs. %2";
         QTest::newRow("vacant title: the best man first") << s;
-        s.card[2] = slot(T, "Ken Alpha", 100), s.name = "Test FC: Alpha vs. TBA";
-        s.firstLine = "Booked Ken Bravo for a Championship Match at Test FC: Alpha vs. TBA";
-        s.nameAfter = "Test FC: Alpha vs. Bravo";
-        QTest::newRow("vacant title: the second man once the best is on") << s;
         s = {}, s.card = titleCard, s.titles = {belt + "Ken Mike"}, s.rosterSize = 14, s.daysOut = 20;
         s.firstLine = byTitle.arg("Ken Mike"), s.nameAfter = "Test FC: Mike vs. %2";
         QTest::newRow("the holder is called up, whatever his position") << s;
-        s.titles = {belt + "Jo Storm"}, s.userPosition = 8;
-        s.firstLine = byTitle.arg("Jo Storm"), s.nameAfter = "Test FC: Storm vs. %2", s.userAllowed = {T};
-        QTest::newRow("the user's holder is called up as his man") << s;
         s = {}, s.card = titleCard, s.titles = {belt + "Old Timer"}, s.daysOut = 20, s.absent = "Old Timer";
         QTest::newRow("a holder who has left books nobody") << s;
 
@@ -215,10 +208,6 @@ private slots:
         QTest::newRow("the user's man of position 3 waits until the undercard is full") << s;
         s.userPosition = 5, s.userAllowed = {S, Off}, s.userSeen = S;
         QTest::newRow("the user's man of position 5 stays on the undercard") << s;
-        s.card = {slot(S, "Al Outsider", 501, "Bo Outsider", 502), slot(S, "Cy Outsider", 503, "Di Outsider", 504),
-                  slot(S)};
-        s.userAllowed = {Off}, s.userSeen = "";
-        QTest::newRow("the user's man of position 5 stays out of the main event") << s;
         s = {}, s.card = titleCard, s.titles = {belt + "Vacant"}, s.rosterSize = 14;
         s.userPosition = 9, s.userAllowed = {T, S, Off}, s.userSeen = T;
         QTest::newRow("the user's man of position 9 may fight for the belt") << s;

@@ -50,17 +50,11 @@ private slots:
         QTest::newRow("a roster key that is not his score") << 2 << "under 6900 with a ranking score of 7000";
         QTest::newRow("a booking on a night that is gone") << 3 << "which does not exist";
         QTest::newRow("a past night without results") << 4 << "passed without results";
-        QTest::newRow("a gym man without a booking") << 5 << "Ivan Drago has 0 booking records";
         QTest::newRow("a roster man under another's contract")
-            << 6 << "Ken Aso stands in Genesis under a contract with EPIC";
-        QTest::newRow("a free agent on a roster") << 7 << "Ken Aso stands in Genesis as a free agent";
-        QTest::newRow("fewer than no fights left") << 8 << "Tom Berg in the free agents has -1 fights left";
+            << 5 << "Ken Aso stands in Genesis under a contract with EPIC";
         QTest::newRow("a champion whose reign has ended")
-            << 9 << "Ken Aso holds Genesis World Championship with no open";
-        QTest::newRow("a man twice on one card") << 10 << "id 1001 stands twice on Spring Night";
-        QTest::newRow("a past night with an open place") << 11 << "Old Night of Genesis on";
-        QTest::newRow("a night to come with a man who left") << 12 << "names id 1003, whom Genesis does not hold";
-        QTest::newRow("an id never given out") << 13 << "Sam Ruiz in the amateurs has the id 1101";
+            << 6 << "Ken Aso holds Genesis World Championship with no open";
+        QTest::newRow("a man twice on one card") << 7 << "id 1001 stands twice on Spring Night";
     }
 
     void brokenRuleIsNamed()
@@ -81,12 +75,6 @@ private slots:
             roster.insert(7000, aso);
         };
         const QString belt = "Genesis World Championship";
-        // a fought night keeps its results
-        const auto pastNight = [&](const Entity_Match &match) {
-            Entity_Event night = makeEvent("Old Night", "Genesis", world.currentDate.addDays(-1), {match});
-            night.addResults({"Single Match - a result"});
-            return night;
-        };
         switch (breakage) {
         case 1:
             roster.insert(8000, fighter(1003, "Tom", "Berg", 8000, "Genesis"));
@@ -103,44 +91,19 @@ private slots:
                                       {slot("Single Match", "Ken Aso", 1001, "Leo Maas", 1002)}));
             break;
         case 5:
-            world.bookings.clear();
-            break;
-        case 6:
             replaceAso("EPIC", 3, {});
             break;
-        case 7:
-            replaceAso("Free Agent", 0, {});
-            break;
-        case 8: {
-            Entity_Fighter berg = world.freeAgents.take(8000);
-            berg.setContract("Free Agent", -1);
-            world.freeAgents.insert(8000, berg);
-            break;
-        }
-        case 9:
+        case 6:
             // his reign ended with his last contract; a row whose holder has left is no fault
             titles.insert(belt, "Ken Aso");
             titles.insert("Genesis Grand Prix 2010", "Otto Gone");
             replaceAso("Genesis", 3, {belt + " - from Sat Jan 1 2011 until Sun Feb 6 2011"});
             break;
-        case 10:
+        case 7:
             calendar = {makeEvent("Spring Night", "Genesis", world.currentDate.addDays(7),
                                   {slot("Single Match", "Ken Aso", 1001, "Leo Maas", 1002),
                                    slot("Single Match", "Ken Aso", 1001, "TBA", 0)})};
             break;
-        case 11:
-            calendar.prepend(pastNight(slot("Single Match", "Ken Aso", 1001, "TBA", 0)));
-            break;
-        case 12:
-            calendar = {makeEvent("Spring Night", "Genesis", world.currentDate.addDays(7),
-                                  {slot("Single Match", "Tom Berg", 1003, "TBA", 0)})};
-            break;
-        case 13: {
-            Entity_Fighter ruiz = world.amateurs.take(8000);
-            ruiz.setId(world.nextId + 1);
-            world.amateurs.insert(8000, ruiz);
-            break;
-        }
         }
         world.organisations = {genesisWith(calendar, roster, titles)};
         QVERIFY(world.load());

