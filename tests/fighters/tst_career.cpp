@@ -4,6 +4,7 @@
 #include "fighters/MatchStatus.h"
 #include "fighters/Random.h"
 #include "fighters/ReputationScale.h"
+#include "fighters/ResultEntry.h"
 #include "fighters/SkillTable.h"
 
 #include <QtTest>
@@ -83,7 +84,6 @@ struct Points {
 };
 const Points pointRows[] = {
     {"marketability 4 wins 23", 4, 90, "Win", 113, "Local Fighter"},
-    {"marketability 0 wins 15", 0, 0, "Win", 15, "Unknown"},
     {"marketability 0 loses 11", 0, 311, "Loss", 300, "Rising Star"},
     {"995 stops at 1000", 4, 995, "Win", 1000, "Legendary"},
     {"5 stops at 0", 0, 5, "Loss", 0, "Unknown"},
@@ -97,7 +97,6 @@ struct Ranking {
     const char *label;
 };
 const Ranking rankings[] = {
-    {"50", 50, "Legendary"},
     {"51", 51, "World Class"},
     {"10500", 10500, "Rising Star"},
     {"10501 keeps the label", 10501, ""},
@@ -115,6 +114,32 @@ const Experience experiences[] = {
     {"a win with two knockdowns", "Win", 10, 2, 0, 17, 12},
     {"a loss after three knockdowns", "Loss", 0, 0, 3, -2, -2},
     {"odd counts are halved down", "Draw", 7, 0, 0, 7, 3},
+};
+
+using O = ResultEntry::Outcome;
+struct Field {
+    const char *name, *entry;
+    O outcome;
+    bool knockout, decision;
+    const char *title;
+};
+const Field entries[] = {
+    {"a knockout win", "Win: Al Ames - KO(Hook) - Rd. 2(1:20) - EPIC: EPIC Event", O::Win, true, false, ""},
+    {"a technical knockout counts", "Loss: Al Ames - TKO(Low Kick) - Rd. 3(0:41) - G-1: Night", O::Loss, true, false,
+     ""},
+    {"a decision at GKO is no knockout", "Win: Bo Bell - Unanimous Decision - Rd. 3(3:00) - GKO: GKO Winter Warriors",
+     O::Win, false, true, ""},
+    {"a loss at a winter night is no win",
+     "Loss: Cy Cole - Split Decision - Rd. 3(3:00) - Red Storm Global: Red Storm Winter Storm", O::Loss, false, true,
+     ""},
+    {"an opponent named Winston", "Loss: Winston Koenig - KO(Jab) - Rd. 1(0:12) - Valhalla: Vinter", O::Loss, true,
+     false, ""},
+    {"a title behind the bar",
+     "Win: Dee Dunn - Majority Decision - Rd. 3(3:00) - GKO: GKO Fight Night|GKO Heavyweight World Championship",
+     O::Win, false, true, "GKO Heavyweight World Championship"},
+    {"a knockout name in the title only", "Win: Ed Egan - Decision - Rd. 5(3:00) - G-1: Night|KO Cup 2011", O::Win,
+     false, true, "KO Cup 2011"},
+    {"no result word is a draw of the record", "Draw: Fin Ford - Rd. 3(3:00)", O::Draw, false, false, ""},
 };
 
 } // namespace
@@ -253,6 +278,23 @@ private slots:
         QCOMPARE(man.number(F::JabSpeed), 51);
         QCOMPARE(man.number(F::HandSpeed), 99);
         QCOMPARE(man.skillProgress[SkillTable::Hook], 161);
+    }
+
+    // The rules of a career read the result word, the method and the title of an entry, never a
+    // word that a man's or a night's name happens to hold.
+    void entryFields_data() { TableRows::add(entries); }
+    void entryFields()
+    {
+        const Field &row = TableRows::current(entries);
+        const QString entry = row.entry, title = row.title;
+        const int outcome = int(row.outcome);
+        const bool knockout = row.knockout, decision = row.decision;
+        const ResultEntry read(entry);
+        QCOMPARE(int(read.outcome()), outcome);
+        QCOMPARE(read.byKnockout(), knockout);
+        QCOMPARE(read.byDecision(), decision);
+        QCOMPARE(read.title(), title);
+        QCOMPARE(read.isTitleFight(), !title.isEmpty());
     }
 };
 

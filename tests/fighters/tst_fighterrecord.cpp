@@ -34,7 +34,6 @@ struct Bio {
 };
 const Bio bios[] = {
     {"no traits", "", 10, "New Fighter"},
-    {"intuition 4", "Ring General,Tough,Fast Defense", 4, "New Fighter\nTough\nFast Defense\n"},
     {"intuition 0 still breaks the line", "Ring General,Tough,Fast Defense", 0, "New Fighter\n"},
     {"attacker from 8", "Natural Attacker", 8, "New Fighter\nNatural Attacker\n"},
     {"attacker hidden at 7", "Natural Attacker", 7, "New Fighter\n"},

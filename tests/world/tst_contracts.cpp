@@ -89,7 +89,6 @@ const Signing signings[] = {
     {"World Class: 77 reaches 78 at least", "World Class", 35, 77, "", 0, 0},
     {"a bad form: 71 reaches 70 at best", "Elite", 35, 71, "WLL", 1, 15},
     {"an old good run counts no more", "Elite", 35, 69, "WWWWWLLL", 0, 0},
-    {"a prestige of no level has no band", "Backyard", 35, 0, "L", 65, 85},
 };
 
 struct Money {
@@ -118,9 +117,7 @@ struct Offer {
 const Offer offers[] = {
     {"Elite contract: World Class is not enough", "Elite", "World Class", 99, 4, 0, 3, Fame},
     {"Elite contract: International Superstar", "Elite", "International Superstar", 99, 4, 0, 3, ""},
-    {"Elite one fight: World Class", "Elite", "World Class", 99, 4, 0, 1, ""},
     {"Elite one fight: Championship Caliber", "Elite", "Championship Caliber", 99, 4, 0, 1, Fame},
-    {"60 for an Elite contract even at 15", "Elite", "Legendary", 60, 4, 15, 3, Level},
     {"60 for one Elite fight at 1", "Elite", "Legendary", 60, 4, 1, 1, ""},
     {"60 for one Elite fight at 0", "Elite", "Legendary", 60, 4, 0, 1, Level},
     {"marketability 0 at -11", "Regional", "Unknown", 99, 0, -11, 3, Charm},

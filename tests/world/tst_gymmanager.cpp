@@ -60,10 +60,8 @@ struct Prestige {
 };
 const Prestige prestiges[] = {
     {"a defeat drops below 101", 101, "Local Hangout", false, false, 99, "Unknown"},
-    {"a win climbs over 100", 99, "Unknown", true, false, 107, "Local Hangout"},
     {"100 is still unknown", 92, "Unknown", true, false, 100, "Unknown"},
     {"a knock-out stops at 1000", 995, "Legendary", true, true, 1000, "Legendary"},
-    {"a knock-out defeat", 300, "Amateur Level", false, true, 295, "Amateur Level"},
     {"0 is the floor", 3, "Unknown", false, true, 0, "Unknown"},
     {"legendary falls at 900", 902, "Legendary", false, false, 900, "Elite"},
 };
@@ -82,7 +80,6 @@ const Reputation reputations[] = {
     {"to exactly 100 is no rise", 90, 0, false, 100, false, "Unknown"},
     {"a title fight into the next band", 190, 10, true, 220, true, "Local Name"},
     {"the ceiling", 995, 10, true, 1000, false, "Unknown"},
-    {"into the last band", 895, 0, false, 905, true, "Legendary"},
 };
 
 // what Intuition lets the user read of his own men
@@ -94,7 +91,6 @@ struct Reading {
 const Reading readings[] = {
     {"intuition 4 reads nothing", 4, 0, "Can't Tell", "Can't Tell"},
     {"intuition 5 reads fatigue", 5, 0, "Can't Tell", "Peak"},
-    {"intuition 7", 7, 4, "Can't Tell", "Exhausted"},
     {"intuition 8 reads learning", 8, 2, "Fast", "Normal"},
     {"out of range", 10, 7, "Average", "Normal"},
 };
