@@ -199,7 +199,7 @@ private slots:
         QTest::newRow("a one-title champion fights only for his belt") << s;
         s.titles = {"Test FC Grand Prix 2011=Ken Golf"}, s.complete = 1, s.absent = "";
         QTest::newRow("a Grand Prix winner fights single matches") << s;
-        s.titles = {belt + "Ken Golf", "Test FC Grand Prix 2010=Vacant"};
+        s.titles = {belt + "Ken Golf", "Test FC Youth Championship=Vacant"};
         QTest::newRow("a champion of two titles fights single matches") << s;
         s.titles = {}, s.rosterSize = 10, s.complete = 0;
         QTest::newRow("the top five never fill the undercard") << s;
