@@ -54,7 +54,6 @@ private slots:
         QTest::addColumn<int>("pick");
         QTest::addColumn<int>("index");
         QTest::newRow("five wraps to the first of five") << CommentaryList::AtkOut_ToIn << 5 << 0;
-        QTest::newRow("d100 of 99 is the fifth line") << CommentaryList::GenKO << 99 << 4;
         QTest::newRow("d100 of 100 is the second of three") << CommentaryList::AtkIn_OnEvOut << 100 << 1;
         QTest::newRow("a negative pick wraps backwards") << CommentaryList::AtkOut_OnEvIn << -1 << 2;
     }
@@ -67,12 +66,6 @@ private slots:
         const QString expected = Commentary::line(list, index, last, full);
         QCOMPARE(Commentary::line(list, pick, last, full), expected);
         QCOMPARE(Commentary::pickLine(list, pick, last, full), expected);
-    }
-
-    void countStepRunsOn()
-    {
-        QCOMPARE(Commentary::countStep(3), QStringLiteral("3..... "));
-        QCOMPARE(Commentary::countStep(1) + Commentary::countStep(2), QStringLiteral("1..... 2..... "));
     }
 };
 

@@ -74,11 +74,9 @@ struct Outcome {
 const Outcome outcomes[] = {
     {"clean hit", Sharp, Kind::BlockHighPunch, Soft, 9, 0, 1, 1, 1, HighBlocks, 0, GoesOn},
     {"block", Wild, Kind::BlockHighPunch, Hard, 1, 0, 0, 1, 2, HighBlocks, 1, GoesOn},
-    {"body block", Wild, Kind::BlockMid, Hard, 1, 0, 0, 1, 2, BodyAndLegBlocks, 1, GoesOn},
     {"dodge by a man of nerve", Wild, Kind::DodgeHigh, Hard, 0, 0, 0, 1, 2, HighDodges, 1, TakesOver},
     {"timid dodge", Wild, Kind::DodgeLow, Soft, 0, 0, 0, 1, 2, OtherDodges, 1, GoesOn},
     {"counter", Wild, Kind::CounterHigh, Hard, 0, 0, 0, 0, 0, HighCounters, 1, Countered},
-    {"mid counter", Wild, Kind::CounterMid, Hard, 0, 0, 0, 0, 0, MidCounters, 1, Countered},
     {"return fire", Sharp, Kind::ReturnAttack, Soft, 4, 4, 1, 1, 0, -1, 0, Returned},
     {"knockdown", Sharp, Kind::BlockHighPunch, NoChin, 9 + 34, 0, 2, 2, 1, HighBlocks, 0, Down},
     {"blocked onto spent arms", Wild, Kind::BlockHighPunch, SpentArms, 1 + 34, 0, 1, 2, 2, HighBlocks, 1, Down},
@@ -152,8 +150,6 @@ private slots:
         QTest::newRow("after the eighth everybody hands over") << 7 << 99 << at << "State_Def_Out";
         QTest::newRow("in the pocket the pocket's strikes")
             << 0 << 0 << int(MatchCodes::InAttack) << "State_Atk_InAttack";
-        QTest::newRow("in the clinch the clinch's")
-            << 0 << 0 << int(MatchCodes::ClinchAttack) << "State_Atk_ClinchAttack";
     }
 
     void goingOnOrHandingOver()
@@ -185,7 +181,6 @@ private slots:
         QTest::addColumn<double>("share");
         QTest::newRow("ferocity counts whole") << QList<int>{0, 0, 60, 0} << 60 / 120.0;
         QTest::newRow("discipline counts a half") << QList<int>{99, 0, 0, 0} << 49 / 120.0;
-        QTest::newRow("aggression counts a third") << QList<int>{0, 99, 0, 0} << 33 / 120.0;
         QTest::newRow("willpower counts a third") << QList<int>{0, 0, 0, 99} << 33 / 120.0;
         QTest::newRow("a drive of 120 always goes on") << QList<int>{0, 63, 99, 0} << 1.0;
     }
