@@ -55,7 +55,8 @@ private slots:
         QCOMPARE(fileBytes(SaveFile::pathOf("second")), first);
     }
 
-    // refused with a reason, the running world as it was, and no memory reserved for a count
+    // a damaged or foreign file is refused with a reason, the running world as it was, and no
+    // memory reserved for a count
     void foreignFilesAreRefused_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -69,6 +70,7 @@ private slots:
         for (int i = 0; i < 5000; ++i)
             noise.append(char(qrand()));
         QTest::newRow("random bytes") << noise;
+        QTest::newRow("a save cut short") << empty.bytes().chopped(10);
         QTest::newRow("four billion students") << head + count(0xFFFFFFF0) + fighter + fighter;
         QTest::newRow("a fighter of four billion strings")
             << head + count(1) + count(0xFFFFFFF0) + QByteArray(400, '\0');

@@ -163,26 +163,6 @@ private slots:
         QCOMPARE(worldBytes(), saved);
         QVERIFY(ModuleManager::instance().isTopMenuVisible() && !onSaveScreen());
     }
-
-    // a save cut short is refused, and the game that runs goes on as it was
-    void aDamagedSaveIsRefused()
-    {
-        const QByteArray bytes = worldBytes().left(worldBytes().size() / 2);
-        QDir().mkpath(saves);
-        QFile file(saves + "Damaged.dat");
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
-        GameManager::instance().advanceDate();
-        const QByteArray running = worldBytes();
-        openSaveScreen(true);
-        const auto seen = press(screenButton("Load"), {"Accept", "Accept"});
-        QCOMPARE(seen.size(), 2);
-        QVERIFY2(seen[1].text.startsWith("The file ./Resources/Saves/Damaged.dat could not be read."),
-                 qPrintable(seen[1].text));
-        QVERIFY2(seen[1].text.count('\n') == 1 && !seen[1].text.endsWith('\n'), qPrintable(seen[1].text));
-        QCOMPARE(seen[1].buttons, cancelAlone);
-        QCOMPARE(worldBytes(), running);
-        QVERIFY(onSaveScreen() && ModuleManager::instance().isTopMenuVisible());
-    }
 };
 
 QTEST_MAIN(tst_SaveLoad)
