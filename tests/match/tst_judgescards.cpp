@@ -7,7 +7,8 @@ class tst_JudgesCards : public QObject
     Q_OBJECT
 
 private slots:
-    // the three judges' cards at each bell, and the verdict they give as the rounds go by
+    // the three judges' cards at each bell, and the verdict they give as the rounds go by: none
+    // before the third bell, none without a majority before the tenth, and then the split
     void cards_data()
     {
         QTest::addColumn<QList<QList<int>>>("rounds");
@@ -51,27 +52,6 @@ private slots:
         QCOMPARE(given, verdicts);
         QCOMPARE(cards.rounds(), rounds.size());
         QCOMPARE(QList<int>({cards.totalOne(0), cards.totalTwo(0)}), totals);
-    }
-
-    void verdictWords_data()
-    {
-        QTest::addColumn<int>("votesOne");
-        QTest::addColumn<int>("votesTwo");
-        QTest::addColumn<int>("rounds");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("1-2") << 1 << 2 << 4 << "Split Decision";
-        QTest::newRow("3-0 after two: too early") << 3 << 0 << 2 << "";
-        QTest::newRow("1-1 after three: one more round") << 1 << 1 << 3 << "";
-        QTest::newRow("1-0 after nine: one more round") << 1 << 0 << 9 << "";
-        QTest::newRow("1-1 after ten: split") << 1 << 1 << 10 << "Split Decision";
-    }
-    void verdictWords()
-    {
-        QFETCH(int, votesOne);
-        QFETCH(int, votesTwo);
-        QFETCH(int, rounds);
-        QFETCH(QString, word);
-        QCOMPARE(JudgesCards::word(JudgesCards::verdictOf(votesOne, votesTwo, rounds)), word);
     }
 };
 

@@ -1,7 +1,6 @@
 #include "../fighters/TableRows.h"
 #include "screens/ScreenTestKit.h"
 
-#include "fighters/Entity_Gym.h"
 #include "screens/Module_MainMenu.h"
 #include "screens/Module_NewGame.h"
 
@@ -122,12 +121,6 @@ private slots:
         QCOMPARE(values, QList<int>{0} + skills + QList<int>(4, 0));
         GameManager::instance().gymPack(strings, values, ledger);
         QCOMPARE(strings, QStringList({"Golden Fist", "Karate", "Teal", "Gold", "Unknown"}));
-        QList<int> gymValues(Entity_Gym::ValueCount, 0);
-        gymValues[Entity_Gym::Money] = 10000;
-        gymValues[Entity_Gym::StudentSlots] = 3;
-        gymValues[Entity_Gym::FighterSlots] = 1;
-        QCOMPARE(values, gymValues);
-        QCOMPARE(ledger, QList<int>(8, 0));
 
         // the game opens on the profile, with the top menu over it
         QVERIFY(ModuleManager::instance().isTopMenuVisible());
