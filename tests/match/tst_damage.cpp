@@ -91,6 +91,7 @@ const BelowTheHead belowTheHead[] = {
     {"arms with 1 left hold", Arms, 11, -1000, 10, 0},
     {"spent arms drop a beaten body", Arms, 10, -1000, 10, 1},
     {"spent arms on a sound body hold", Arms, 10, 200, 10, 0},
+    {"legs with 1 left hold", Legs, 11, -1000, 10, 0},
     {"spent legs drop a beaten body", Legs, 10, -1000, 10, 1},
 };
 

@@ -33,10 +33,10 @@ struct Tending {
 };
 
 const Tending tendings[] = {
-    {"heal of 4 never heals", 0, 4, false},
-    {"heal of 14 always does", 0, 14, true},
-    {"strategy of 1 never sharpens", 3, 1, false},
-    {"strategy of 11 always does", 3, 11, true},
+    {"heal of 4 never heals", 0, 4, false},        {"heal of 14 always does", 0, 14, true},
+    {"water of 0 never refreshes", 1, 0, false},   {"water of 10 always does", 1, 10, true},
+    {"motivation of 3 never lifts", 2, 3, false},  {"motivation of 13 always does", 2, 13, true},
+    {"strategy of 1 never sharpens", 3, 1, false}, {"strategy of 11 always does", 3, 11, true},
 };
 
 // what the corner may lift of fighter one: four healths, stamina, both durabilities, his head's three
