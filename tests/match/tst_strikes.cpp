@@ -180,8 +180,7 @@ private slots:
         QTest::addColumn<QList<int>>("drive"); // discipline, aggression, ferocity, willpower
         QTest::addColumn<double>("share");
         QTest::newRow("ferocity counts whole") << QList<int>{0, 0, 60, 0} << 60 / 120.0;
-        QTest::newRow("discipline counts a half") << QList<int>{99, 0, 0, 0} << 49 / 120.0;
-        QTest::newRow("willpower counts a third") << QList<int>{0, 0, 0, 99} << 33 / 120.0;
+        QTest::newRow("discipline counts a half, willpower a third") << QList<int>{99, 0, 0, 99} << 82 / 120.0;
         QTest::newRow("a drive of 120 always goes on") << QList<int>{0, 63, 99, 0} << 1.0;
     }
 
