@@ -109,8 +109,9 @@ const Block blocks[] = {
     {"leg block on the legs", State_Gen_BlkDmg::Leg, F::LegGuardSpeed, F::LegGuardTechnique, Legs},
 };
 
-// the first row that fits sets the band; a roll of u100 against resilience decides most rows (a
-// resilience of -1 loses every roll, one of 100 wins every roll)
+// the first row that fits sets the band: the first bound and the last on both sides; a roll of
+// u100 against resilience decides most rows (a resilience of -1 loses every roll, one of 100 wins
+// every roll)
 struct Band {
     const char *name;
     int resilience, sixtieths, band; // stamina in sixtieths of the ceiling
@@ -119,10 +120,6 @@ struct Band {
 const Band bands[] = {
     {"below a fifth, a tiring man", -1, 11, 5},
     {"a fifth", -1, 12, 4},
-    {"below a third", -1, 19, 4},
-    {"a third", -1, 20, 3},
-    {"below half", -1, 29, 3},
-    {"half", -1, 30, 2},
     {"below two thirds", -1, 39, 2},
     {"two thirds", -1, 40, 1},
     {"spent, a tough man", 100, 5, 1},
