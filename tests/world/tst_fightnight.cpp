@@ -19,6 +19,8 @@ using MatchEnd = FightNight::MatchEnd;
 
 namespace {
 
+const QString MainEvent = QStringLiteral("This is it! The main event! Who will reign supreme?\n");
+
 Entity_Event tonight()
 {
     return game().todaysUserEvents().value(0);
@@ -158,6 +160,8 @@ private slots:
         CommentaryBuffer words;
         FightNight night(game(), fantasy, &words);
         QCOMPARE(playNight(night), 0);
+        // a card of one match: it is the main event
+        QVERIFY(words.paragraphs().contains(MainEvent));
         QCOMPARE(night.resultLines().size(), 1);
         QVERIFY(night.userFighterStats().isEmpty());
         game().removeFantasyFighters();
@@ -184,6 +188,8 @@ private slots:
         QCOMPARE(lines.value(0), "Good evening, and welcome to " + NightName + "!");
         QVERIFY(lines.contains("Tonight, the " + Org + " World Championship is on the line!"));
         QVERIFY(lines.contains("This is the championship match! The " + Org + " World Championship is at stake!\n"));
+        // the title fight closes the card, so no match is called the main event
+        QVERIFY(!lines.contains(MainEvent));
         QVERIFY(
             lines.contains("Ladies and gentlemen, this concludes " + NightName + ". I hope you enjoyed the event. \n"));
         QVERIFY(night.resultLines().value(0).startsWith("Single Match - "));
