@@ -7,6 +7,7 @@
 #include "world/FightNight.h"
 #include "world/WorldMatch.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <functional>
@@ -201,6 +202,45 @@ private slots:
         QCOMPARE(night.userFighterStats().size(), int(MatchStatus::Count));
         QCOMPARE(ResultEntry(night.userCareerEntry()).title(), Title);
         QCOMPARE(game().fighterById(GymId).history().size(), 1);
+    }
+
+    // After three rounds that one man clearly won, each judge's card is read for him, the higher
+    // total first, whichever corner he fought from.
+    void theCardsAreReadForTheirMan_data()
+    {
+        QTest::addColumn<int>("gymLevel");
+        QTest::addColumn<int>("opponentLevel");
+        QTest::addColumn<QString>("winner");
+        QTest::newRow("the user's man, the first named") << 90 << 10 << "Gym Cedar";
+        QTest::newRow("his opponent, the second named") << 10 << 90 << "Roster Dunn";
+    }
+    void theCardsAreReadForTheirMan()
+    {
+        QFETCH(int, gymLevel);
+        QFETCH(int, opponentLevel);
+        QFETCH(QString, winner);
+        Setup setup;
+        setup.unbreakable = true;
+        setup.gymLevel = gymLevel;
+        setup.opponentLevel = opponentLevel;
+        CommentaryBuffer words;
+        const auto night = usersMatch(setup, &words);
+        QVERIFY(night);
+        for (int round = 1; round <= 3; ++round)
+            QCOMPARE(fightRound(*night), Moment::Bell);
+        night->tally();
+        const qsizetype readOut = words.paragraphs().size();
+        QCOMPARE(night->endMatch(), MatchEnd::CardDone);
+        const QStringList cards = words.paragraphs().mid(readOut, 3);
+        const QStringList judges{"first", "second", "final"};
+        const QRegularExpression card("^The (\\w+) judge scores the fight (\\d+)-(\\d+) for (.+)$");
+        for (int judge = 0; judge < 3; ++judge) {
+            const QRegularExpressionMatch read = card.match(cards.value(judge));
+            QVERIFY2(read.hasMatch(), qPrintable(cards.value(judge)));
+            QCOMPARE(read.captured(1), judges[judge]);
+            QVERIFY(read.captured(2).toInt() > read.captured(3).toInt());
+            QCOMPARE(read.captured(4), winner);
+        }
     }
 
     // From the third bell on the judges tally; one card for each man and one even card is no
