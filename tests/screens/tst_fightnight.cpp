@@ -1,6 +1,8 @@
 #include "common/NightWorld.h"
 #include "screens/ScreenTestKit.h"
 
+#include "match/Entity_MatchFighter.h"
+#include "match/MatchManager.h"
 #include "screens/CornerPage.h"
 #include "screens/Module_NextDay.h"
 #include "screens/Module_PostEvent.h"
@@ -91,6 +93,7 @@ private slots:
         QVERIFY(screen && !shell().isTopMenuVisible());
         auto *instructions = screen->findChild<QComboBox *>("instructionBox");
         int corners = 0, strangersSteps = 0, timed = 0;
+        bool obeyed = false;
         for (int step = 0; nightScreen() && step < 5000; ++step) {
             if (screenButton("Tend to Fighter")) {
                 QVERIFY(screen->fightNight().isUserMatch());
@@ -130,6 +133,13 @@ private slots:
                 QVERIFY(!screenButton("Sim to End") && bool(screenButton("Tend to Fighter")) == (timed == 2));
                 continue;
             }
+            if (screen->fightNight().isUserMatch() && shown(instructions) && instructions->count() > 1 && !obeyed) {
+                // an order shouted from the box: when he listens, his tactic is the order's at once
+                const int before = MatchManager::instance().getFighterOne()->getTactic();
+                instructions->setCurrentIndex(1);
+                emit instructions->activated(1);
+                obeyed = MatchManager::instance().getFighterOne()->getTactic() != before;
+            }
             if (screen->fightNight().matchNumber() == 1 && shown(screen->commentaryBox())) {
                 // the stranger's match: nobody to shout at
                 QVERIFY(!shown(instructions));
@@ -137,7 +147,7 @@ private slots:
             }
             click("Next Step");
         }
-        QVERIFY(strangersSteps > 0 && corners >= 1 && timed == 2);
+        QVERIFY(strangersSteps > 0 && corners >= 1 && timed == 2 && obeyed);
 
         // the summary: what he did, and the purse paid the moment it stands
         QVERIFY(summaryScreen());
