@@ -206,8 +206,17 @@ private slots:
         // Space does nothing in the corner: the spin boxes may take it
         QTest::keyClick(window, Qt::Key_Space);
         QVERIFY(screen->cornerPage());
+        // all the points on strategy: when the talk takes, he leaves the corner a wiser man
+        screen->cornerPage()->careBox(CornerPage::DiscussStrategy)->setValue(setup.cornering);
+        const auto insight = [] {
+            const Entity_MatchFighter *man = MatchManager::instance().getFighterOne();
+            return man->number(Entity_Fighter::FightIQ) + man->number(Entity_Fighter::Awareness) +
+                   man->number(Entity_Fighter::Composure);
+        };
+        const int before = insight();
         QTest::keyClick(window, Qt::Key_Enter);
         QVERIFY(!screen->cornerPage());
+        QVERIFY(insight() > before);
         QVERIFY(screen->commentaryBox()->toPlainText().contains("Round 2!"));
     }
 };
