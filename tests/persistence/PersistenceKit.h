@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Streamed.h"
 #include "fighters/Entity_Fighter.h"
 #include "fighters/StreamForm.h"
 #include "persistence/DefaultWorld.h"
@@ -45,14 +46,7 @@ inline bool writeBytes(const QString &path, const QByteArray &bytes)
 }
 
 // a value in the stream form of the game's files
-template <typename Value> QByteArray streamed(const Value &value)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(StreamForm::version);
-    out << value;
-    return bytes;
-}
+using ::streamed;
 
 // a test in a folder of its own, so that saves and hand-made files stay out of the game's
 class WorkingFolder
