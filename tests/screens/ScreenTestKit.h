@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fighters/StreamForm.h"
+#include "persistence/PersistenceKit.h"
 #include "screens/ScreenFactory.h"
 #include "shell/ModuleManager.h"
 #include "shell/TopMenuBar.h"
@@ -18,6 +19,10 @@
 
 // Drives the game's screens as a player would, with nobody at the keyboard.
 namespace ScreenTestKit {
+
+// two worlds are equal when they save to the same bytes
+using PersistenceKit::fileBytes;
+using PersistenceKit::worldBytes;
 
 // Answers the modal dialogs that come up by pressing the given buttons in turn, and keeps the
 // text and the offered buttons of each; a dialog beyond the script is cancelled and kept too. A
@@ -98,12 +103,6 @@ inline QStringList texts(const QList<DialogScript::Seen> &seen)
     return all;
 }
 
-inline QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // the shown button of the current screen that reads `text`
 inline QPushButton *screenButton(const QString &text)
 {
@@ -132,12 +131,6 @@ inline void openFromMenu(TopMenuBar::ButtonID screen)
 template <typename T> T *screenWidget(const QString &name)
 {
     return ModuleManager::instance().currentModule()->findChild<T *>(name);
-}
-
-// the world as a save holds it: two worlds are equal when these bytes are
-inline QByteArray worldBytes()
-{
-    return GameManager::instance().state().bytes();
 }
 
 // a nations file of the default data: one list for each of the eight regions
