@@ -87,11 +87,6 @@ inline int landed(const Entity_MatchFighter &man, int strikeCode)
     return status(man, MatchStatus::landed(MatchCodes::strikeIndex(strikeCode)));
 }
 
-inline int thrown(const Entity_MatchFighter &man, int strikeCode)
-{
-    return status(man, MatchStatus::thrown(MatchCodes::strikeIndex(strikeCode)));
-}
-
 // the strikes he landed, all twelve together
 inline int allLanded(const Entity_MatchFighter &man)
 {

@@ -105,7 +105,7 @@ private slots:
             const bool over = match().step();
 
             QCOMPARE(landed(one(), EvJab), row->landed);
-            QCOMPARE(thrown(one(), EvJab), row->thrown);
+            QCOMPARE(status(one(), MatchStatus::thrown(MatchCodes::strikeIndex(EvJab))), row->thrown);
             QCOMPARE(one().getStamina(), 1000 - 10 * row->staminaUnits);
             if (row->pair >= 0) {
                 QCOMPARE(status(two(), MatchStatus::made(row->pair)), row->pairWorked);

@@ -14,8 +14,6 @@ namespace {
 
 const QString saves = QStringLiteral("Resources/Saves/");
 const QStringList both{"Accept", "Cancel"};
-const QStringList acceptAlone{"Accept"};
-const QStringList cancelAlone{"Cancel"};
 
 bool onSaveScreen()
 {
@@ -30,7 +28,6 @@ void openSaveScreen(bool inGame)
         openFromMenu(TopMenuBar::SaveLoad);
     else
         click("Load Game");
-    QVERIFY(onSaveScreen());
 }
 
 QStringList listed()
@@ -102,9 +99,8 @@ private slots:
         const QStringList before = allFiles();
         const auto seen =
             button == "Save" ? saveAs(name, {"Accept", "Accept"}) : press(screenButton(button), {"Accept", "Accept"});
-        QCOMPARE(seen.size(), 1);
-        QCOMPARE(seen[0].buttons, cancelAlone);
-        QCOMPARE(seen[0].text, message);
+        QCOMPARE(texts(seen), QStringList{message});
+        QCOMPARE(seen[0].buttons, QStringList{"Cancel"});
         QCOMPARE(allFiles(), before);
     }
 
@@ -119,7 +115,7 @@ private slots:
         for (const QString &name : QStringList{"Rio", "Atlas", "Mirror Match"}) {
             seen = saveAs(name, {"Accept", "Accept"});
             QCOMPARE(seen.value(1).text, QString("File saved successfully."));
-            QCOMPARE(seen[1].buttons, acceptAlone);
+            QCOMPARE(seen[1].buttons, QStringList{"Accept"});
             QVERIFY(screenWidget<QLineEdit>("nameEdit")->text().isEmpty());
         }
         QCOMPARE(listed(), QStringList({"Atlas", "Mirror Match", "Rio"}));
@@ -144,7 +140,6 @@ private slots:
     // saved in a game, left for the main menu, loaded from there: the world that was saved
     void aSavedGameLoadsAgain()
     {
-        GameManager::instance().setManager({"Anselm", "Reyes", "Oceania", "Fiji", "Unknown"}, QList<int>(23, 4), {});
         GameManager::instance().advanceDate();
         openSaveScreen(true);
         saveAs("Harbour", {"Accept", "Accept"});
