@@ -165,12 +165,12 @@ const Acceptance acceptances[] = {
     {"a man who has retired since", "retired", false},        {"a man who has signed since", "signed", false},
 };
 
-// the man's contract before, "nobody" for an empty gym
+// the man's contract before, "nobody" for an empty gym; the answer's start, the refusal's own
+// words after it
 struct Talk {
     const char *name, *contract, *prestige, *bar, *answer;
 };
-const char *const TurnedDown =
-    "Test FC has turned down your offer. Your fighter does not have a good enough reputation for this company.";
+const char *const TurnedDown = "Test FC has turned down your offer. Your fighter does not";
 const Talk talks[] = {
     {"a free agent signs", "Free Agent", "Regional", "", WorldContracts::Signed},
     {"a man renews with his own", "Test FC", "Regional", "", WorldContracts::Signed},
@@ -449,7 +449,8 @@ private slots:
             return;
         QCOMPARE(game().negotiationQuestion(0, Org), contract == Org ? "Are you sure you want to renew this contract?"
                                                                      : "Are you sure you want to sign this contract?");
-        QCOMPARE(game().negotiateContract(0, Org, 5, 900), answer);
+        const QString said = game().negotiateContract(0, Org, 5, 900);
+        QVERIFY2(said.startsWith(answer), qPrintable(said));
         QString organisation;
         int fights = 0;
         int purse = 0;

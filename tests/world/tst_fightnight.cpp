@@ -124,19 +124,11 @@ private slots:
         const auto outcome = WorldMatch::record(game(), event, event.matchAt(1), gymMan, opponent, fought, GymId);
 
         const bool title = matchType == QLatin1String(Entity_Match::ChampionshipMatch);
-        const QString mark = title ? '|' + Title : QString();
-        QCOMPARE(outcome.line, matchType + " - " + fought.line);
-        QCOMPARE(outcome.winnerEntry, fought.winnerEntry + " - " + Org + ": " + NightName + mark);
-        QCOMPARE(outcome.loserEntry, fought.loserEntry + " - " + Org + ": " + NightName + mark);
 
-        // his record and his manager's; the other man's career goes through his roster
+        // his record goes through the gym's books, the other man's through his roster
         const Entity_GymFighter after = game().fighterById(GymId);
         QCOMPARE(after.number(Entity_Fighter::Wins), gymManWins ? 1 : 0);
         QCOMPARE(after.number(Entity_Fighter::Losses), gymManWins ? 0 : 1);
-        const Entity_Manager manager = game().managerRecord();
-        QCOMPARE(manager.value(Entity_Manager::OverallWins), gymManWins ? 1 : 0);
-        QCOMPARE(manager.value(Entity_Manager::OverallLosses), gymManWins ? 0 : 1);
-        QCOMPARE(manager.titleList().size(), gymManWins && title ? 1 : 0);
         const Entity_Fighter rosterAfter = game().rosterFighter(Org, OpponentId);
         QCOMPARE(rosterAfter.number(Entity_Fighter::Wins), gymManWins ? 0 : 1);
         QCOMPARE(rosterAfter.history().size(), 1);
@@ -176,14 +168,11 @@ private slots:
         QVERIFY(load());
         CommentaryBuffer words;
         FightNight night(game(), tonight(), &words);
-        int bellsOfTheUser = 0;
-        const int corners = playNight(night, [&](FightNight &n) {
+        const auto corner = [](FightNight &n) {
             QVERIFY(n.isUserMatch());
-            ++bellsOfTheUser;
             n.tendFighter(2, 2, 2, 1);
-        });
-        QCOMPARE(corners, bellsOfTheUser);
-        QVERIFY(corners > 0);
+        };
+        QVERIFY(playNight(night, corner) > 0);
 
         const QStringList &lines = words.paragraphs();
         QCOMPARE(lines.value(0), "Good evening, and welcome to " + NightName + "!");

@@ -52,11 +52,6 @@ void startWith(const QString &nation, const QString &region, int intuition = 5, 
     game().takeWorld(world);
 }
 
-const WorldState &running()
-{
-    return game().state();
-}
-
 // the shares of the manager's nation and region and of the main nations
 struct Origin {
     const char *name;
@@ -99,7 +94,7 @@ private slots:
         for (bool student : {false, true, false}) {
             QString name;
             QCOMPARE(game().generateFighter(bookOf(30), name, student), student);
-            const QList<F> men = student ? running().students : running().freeAgents.values();
+            const QList<F> men = student ? game().state().students : game().state().freeAgents.values();
             for (const F &man : men)
                 if (man.fullName() == name)
                     made.append(man.getId());
@@ -158,7 +153,7 @@ private slots:
         QVERIFY(!game().generateFighter(bookOf(6), none, true));
         QCOMPARE(none, QString("unchanged"));
         QCOMPARE(game().getNextId(), 1058 + 24);
-        QCOMPARE(running().freeAgents.size() + running().students.size(), 36);
+        QCOMPARE(game().state().freeAgents.size() + game().state().students.size(), 36);
     }
 
     // without nations or names a man is still made, from the main list and named "N/A"
@@ -168,7 +163,7 @@ private slots:
         QString name;
         QVERIFY(!game().generateFighter({}, name, false));
         QCOMPARE(name, QString("N/A N/A"));
-        const F man = running().freeAgents.first();
+        const F man = game().state().freeAgents.first();
         const int main = NationTable::mainIndex(man.text(F::Nationality));
         QVERIFY(main >= 0);
         QCOMPARE(man.text(F::Region), NationTable::regions().at(NationTable::mainRegion(main)));
@@ -183,7 +178,7 @@ private slots:
         for (int i = 0; i < 120; ++i) {
             QString name;
             QVERIFY(game().generateFighter(bookOf(30), name, true));
-            const QStringList lines = running().students[i].text(F::Bio).split('\n');
+            const QStringList lines = game().state().students[i].text(F::Bio).split('\n');
             QCOMPARE(lines.first(), QString("New Fighter"));
             for (const QString &trait : lines.mid(1)) {
                 if (trait.isEmpty())
