@@ -87,13 +87,14 @@ World worldOf(const QList<Entity_Event> &calendar, const QList<Entity_GymFighter
     return w;
 }
 
-// tonight's night of Man1 (id 101, score 200) and Man2 (id 102, score 300)
+// tonight's night of Man1 (id 101, score 200) and Man3 (id 103, score 400): whoever wins, the
+// ranks move
 World worldWith(const QList<Entity_Match> &card, bool userBooked = false)
 {
     return worldOf({bookedEvent(makeEvent(NightName, Org, Today, card, Title), userBooked)});
 }
 
-Entity_Match alphaVs(const QString &type, int id = 102)
+Entity_Match alphaVs(const QString &type, int id = 103)
 {
     return slot(type, "Ken Man1", 101, "Ken Man" + QString::number(id - 100), id);
 }
@@ -160,8 +161,8 @@ private slots:
         QTest::addColumn<bool>("userBooked");
         QTest::addColumn<int>("opponent");
         QTest::addColumn<int>("matches");
-        QTest::newRow("the world's night") << false << 102 << 1;
-        QTest::newRow("the user's night") << true << 102 << 0;
+        QTest::newRow("the world's night") << false << 103 << 1;
+        QTest::newRow("the user's night") << true << 103 << 0;
         QTest::newRow("a man the roster no longer holds") << false << 999 << 0;
     }
     void whatTheWorldFights()
@@ -187,8 +188,8 @@ private slots:
         QVERIFY(worldWith({alphaVs(type)}).load());
         const Entity_Event night = tonight();
         const WorldMatch::Outcome outcome = WorldMatch::fight(game(), night, night.matchAt(0));
-        QVERIFY(outcome.winnerId == 101 || outcome.winnerId == 102);
-        QCOMPARE(outcome.winnerId + outcome.loserId, 203);
+        QVERIFY(outcome.winnerId == 101 || outcome.winnerId == 103);
+        QCOMPARE(outcome.winnerId + outcome.loserId, 204);
         QVERIFY2(outcome.line.startsWith(type + " - "), qPrintable(outcome.line));
         QVERIFY(!outcome.line.contains(" by Decision "));
 
@@ -203,10 +204,10 @@ private slots:
         QVERIFY(newestEntry(outcome.winnerId).startsWith(outcome.winnerEntry.section('|', 0, 0)));
         QVERIFY(newestEntry(outcome.loserId).startsWith(outcome.loserEntry.section('|', 0, 0)));
 
-        const int winnerBefore = outcome.winnerId == 101 ? 200 : 300;
-        const int move = RankMove::forResult(winnerBefore, 500 - winnerBefore, outcome.line);
+        const int winnerBefore = outcome.winnerId == 101 ? 200 : 400;
+        const int move = RankMove::forResult(winnerBefore, 600 - winnerBefore, outcome.line);
         QCOMPARE(game().rosterFighter(Org, outcome.winnerId).getRankingScore(), winnerBefore - move);
-        QCOMPARE(game().rosterFighter(Org, outcome.loserId).getRankingScore(), 500 - winnerBefore + move);
+        QCOMPARE(game().rosterFighter(Org, outcome.loserId).getRankingScore(), 600 - winnerBefore + move);
 
         const QString winner = game().rosterFighter(Org, outcome.winnerId).fullName();
         QCOMPARE(titlesOf(Org).value(Title), row.crowned ? winner : QString("Vacant"));
