@@ -158,7 +158,6 @@ private slots:
         const World w = fullWorld();
         const QByteArray good = w.bytes();
         const int managerValues = managerValuesAt(w);
-        QTest::newRow("a world cut in the middle") << good.left(good.size() / 2);
         QTest::newRow("a world short of its last byte") << good.chopped(1);
         QTest::newRow("a manager of 22 values") << withWord(good, managerValues, 22);
         QTest::newRow("a manager of 24 values") << withWord(good, managerValues, 24);
