@@ -23,13 +23,6 @@ Entity_Fighter manAged(int id, int age, bool birthday, const QString &organisati
     return man;
 }
 
-Entity_GymFighter gymManAged(int id, int age, const QString &organisation)
-{
-    Entity_GymFighter man(manAged(id, age, false, organisation));
-    man.setContract(organisation, 3, 1000);
-    return man;
-}
-
 World worldOf(const QList<Entity_Fighter> &roster, const QList<Entity_Event> &calendar = {},
               const QList<Entity_GymFighter> &gym = {}, const QDate &today = Today)
 {
@@ -238,7 +231,9 @@ private slots:
         const bool goes = showInDays > 0;
         const Entity_Match place = slot(Entity_Match::SingleMatch, "Ken Man1059", 1059, "Ken Man1001", 1001, true);
         const Entity_Event show = bookedEvent(nightIn(showInDays, {place}), true);
-        World w = worldOf({manAged(1001, 30, false)}, {show}, {gymManAged(1059, 70, Org)});
+        Entity_GymFighter old = gymFighter(1059, "Ken", "Man1059", 5000, Org, 3, 1000);
+        old.setNumber(Entity_Fighter::Age, 70);
+        World w = worldOf({manAged(1001, 30, false)}, {show}, {old});
         w.bookings.first() = Entity_Booking(1059, "Ken Man1059", show.name(), Org, show.date());
         w.students.append(manAged(2000, 70, true, "Free Agent"));
         QVERIFY(w.load());
