@@ -141,7 +141,6 @@ struct Scene {
     World world() const
     {
         World w;
-        w.currentDate = Today;
         QList<Entity_Match> cards = card;
         QList<Entity_GymFighter> men;
         if (userPosition != -99)

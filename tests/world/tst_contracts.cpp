@@ -57,7 +57,6 @@ World worldOf(const Entity_Org &org, const QList<Entity_Fighter> &freeAgents = {
               const QList<Entity_GymFighter> &gym = {})
 {
     World w;
-    w.currentDate = Today;
     w.organisations = {org};
     for (const Entity_Fighter &man : freeAgents)
         w.freeAgents.insert(man.getRankingScore(), man);

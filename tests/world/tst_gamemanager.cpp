@@ -16,7 +16,6 @@ const QDate today(2011, 3, 1);
 World smallWorld()
 {
     World w;
-    w.currentDate = today;
     QList<int> managerValues = w.manager.values();
     managerValues[Entity_Manager::ReputationValue] = 95;
     managerValues[Entity_Manager::Charisma] = 1;
