@@ -149,6 +149,16 @@ private slots:
         QCOMPARE(game().managerRecord().value(Entity_Manager::OverallWins), 2);
     }
 
+    // a title won on his last fight leaves with him: the manager's reign ends that day
+    void aChampionsLastFightEndsTheReign()
+    {
+        QVERIFY(smallWorld().load());
+        game().recordGymResult(1050, "Win: Al Ames - KO(Knee) - Rd. 1(2:02) - G-1: Night|G-1 World Championship",
+                               "Championship Match");
+        QCOMPARE(game().managerRecord().titleList(),
+                 QStringList{"G-1 World Championship - from Tue Mar 1 2011 until Tue Mar 1 2011"});
+    }
+
     void theOutcomeOfAFightNight_data() { TableRows::add(outcomes); }
     void theOutcomeOfAFightNight()
     {
