@@ -82,7 +82,9 @@ QString faultsOf(const Entity_Event &night)
 {
     Entity_Org::Roster roster;
     game().organisation(Org).rosterCopy(roster);
-    const QString title = titlesOf(Org).value(titlesOf(Org).firstKey());
+    // the holder of the first belt, if the organisation has one
+    const Entity_Org::Titles titles = titlesOf(Org);
+    const QString title = titles.isEmpty() ? QString() : titles.first();
     QMap<int, std::pair<int, bool>> men; // id to position and whether he is the user's
     const QList<int> scores = roster.keys();
     for (int p = 0; p < scores.size(); ++p)
