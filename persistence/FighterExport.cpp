@@ -18,18 +18,6 @@
 
 namespace {
 
-const NamedFiles &exports()
-{
-    static const NamedFiles folder(
-        QStringLiteral("./Resources/Exports/"),
-        {"A fighter with no name can't be exported.",
-         "The name \"%1\" can't be the name of an export file: it starts with \".\".",
-         "The name \"%1\" can't be the name of an export file: it holds \"/\" or \"\\\".",
-         "The name of this fighter can't be the name of an export file: it holds control characters.",
-         "The name of this fighter is too long for an export file."});
-    return folder;
-}
-
 // one man with a long career fills some kilobytes; anything far larger is no export
 constexpr qint64 LargestFile = 4 * 1024 * 1024;
 
@@ -111,41 +99,23 @@ bool isManOfThisGame(const Entity_Fighter &man, QString *reason)
         return refuse(reason, notOfThisGame("his birthday is no date"));
     // he must be able to go out again under his own name
     if (man.text(F::FirstName).isEmpty() || man.text(F::LastName).isEmpty() ||
-        !FighterExport::isValidName(man.fullName()))
+        !FighterExport::files().isValidName(man.fullName()))
         return refuse(reason, notOfThisGame("his name can't be the name of a file"));
     return true;
 }
 
 } // namespace
 
-QString FighterExport::folder()
+const NamedFiles &FighterExport::files()
 {
-    return exports().folder();
-}
-
-QString FighterExport::pathOf(const QString &name)
-{
-    return exports().pathOf(name);
-}
-
-bool FighterExport::isValidName(const QString &name, QString *reason)
-{
-    return exports().isValidName(name, reason);
-}
-
-bool FighterExport::exists(const QString &name)
-{
-    return exports().exists(name);
-}
-
-bool FighterExport::canOpen(const QString &name)
-{
-    return exports().canOpen(name);
-}
-
-QStringList FighterExport::exportFiles()
-{
-    return exports().names();
+    static const NamedFiles exports(
+        QStringLiteral("./Resources/Exports/"),
+        {"A fighter with no name can't be exported.",
+         "The name \"%1\" can't be the name of an export file: it starts with \".\".",
+         "The name \"%1\" can't be the name of an export file: it holds \"/\" or \"\\\".",
+         "The name of this fighter can't be the name of an export file: it holds control characters.",
+         "The name of this fighter is too long for an export file."});
+    return exports;
 }
 
 bool FighterExport::write(int index, QString *reason)
@@ -154,19 +124,19 @@ bool FighterExport::write(int index, QString *reason)
     if (index < 0 || index >= names.size())
         return refuse(reason, QStringLiteral("You have no fighters to export."));
     const QString name = names[index];
-    if (!isValidName(name, reason))
+    if (!files().isValidName(name, reason))
         return false;
-    if (!QDir().mkpath(folder()))
+    if (!QDir().mkpath(files().folder()))
         return refuse(reason, QStringLiteral("The folder of the exports can't be made."));
     return DataFile::write(
-        pathOf(name), [index](QDataStream &out) { GameManager::instance().exportFighter(out, index); }, reason);
+        files().pathOf(name), [index](QDataStream &out) { GameManager::instance().exportFighter(out, index); }, reason);
 }
 
 bool FighterExport::read(const QString &name, Entity_Fighter &man, QString *reason)
 {
-    if (!isValidName(name, reason))
+    if (!files().isValidName(name, reason))
         return false;
-    QFile file(pathOf(name));
+    QFile file(files().pathOf(name));
     if (!QFileInfo(file).isFile())
         return refuse(reason, QStringLiteral("There is no export file of that name."));
     if (!file.open(QIODevice::ReadOnly))

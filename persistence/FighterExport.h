@@ -1,5 +1,7 @@
 #pragma once
 
+#include "persistence/NamedFiles.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -14,16 +16,9 @@ class Entity_Fighter;
 class FighterExport
 {
 public:
-    static QString folder();
-    static QString pathOf(const QString &name);
-
-    // A name is no path: it is not empty, starts with no ".", holds no "/", "\" or control
-    // character and fits a file name, so its file can only lie in the folder of the exports.
-    static bool isValidName(const QString &name, QString *reason = nullptr);
-    static bool exists(const QString &name);
-    static bool canOpen(const QString &name);
-    // the names of the files, without ".dat", in the folder's own order; the folder is made when missing
-    static QStringList exportFiles();
+    // the folder, its paths, the names it takes (each refused in this folder's own words) and
+    // the names in it
+    static const NamedFiles &files();
 
     // The gym fighter at that position goes to the file of his full name, through a temporary
     // file that takes the name only when the whole man reached the disk.

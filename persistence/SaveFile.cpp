@@ -12,18 +12,6 @@
 
 namespace {
 
-const NamedFiles &saves()
-{
-    static const NamedFiles folder(QStringLiteral("./Resources/Saves/"),
-                                   {"Please specify a file name for your save.",
-                                    "The name of a save can't start with \".\": such a file would be hidden from the "
-                                    "list of saved games.",
-                                    "The name of a save can't hold \"/\" or \"\\\".",
-                                    "The name of a save can't hold control characters.",
-                                    "That name is too long for a save."});
-    return folder;
-}
-
 void tell(QString *reason, const QString &text)
 {
     if (reason)
@@ -32,45 +20,27 @@ void tell(QString *reason, const QString &text)
 
 } // namespace
 
-QString SaveFile::folder()
+const NamedFiles &SaveFile::files()
 {
-    return saves().folder();
-}
-
-QString SaveFile::pathOf(const QString &name)
-{
-    return saves().pathOf(name);
-}
-
-bool SaveFile::isValidName(const QString &name, QString *reason)
-{
-    return saves().isValidName(name, reason);
-}
-
-bool SaveFile::exists(const QString &name)
-{
-    return saves().exists(name);
-}
-
-bool SaveFile::canOpen(const QString &name)
-{
-    return saves().canOpen(name);
-}
-
-QStringList SaveFile::savedGames()
-{
-    return saves().names();
+    static const NamedFiles saves(QStringLiteral("./Resources/Saves/"),
+                                  {"Please specify a file name for your save.",
+                                   "The name of a save can't start with \".\": such a file would be hidden from the "
+                                   "list of saved games.",
+                                   "The name of a save can't hold \"/\" or \"\\\".",
+                                   "The name of a save can't hold control characters.",
+                                   "That name is too long for a save."});
+    return saves;
 }
 
 bool SaveFile::save(const QString &name, QString *reason)
 {
-    if (!isValidName(name, reason))
+    if (!files().isValidName(name, reason))
         return false;
-    if (!QDir().mkpath(folder())) {
+    if (!QDir().mkpath(files().folder())) {
         tell(reason, QStringLiteral("The folder of the saves can't be made."));
         return false;
     }
-    return saveTo(pathOf(name), reason);
+    return saveTo(files().pathOf(name), reason);
 }
 
 bool SaveFile::saveTo(const QString &path, QString *reason)
@@ -81,9 +51,9 @@ bool SaveFile::saveTo(const QString &path, QString *reason)
 
 bool SaveFile::load(const QString &name, QString *reason)
 {
-    if (!isValidName(name, reason))
+    if (!files().isValidName(name, reason))
         return false;
-    return loadFrom(pathOf(name), reason);
+    return loadFrom(files().pathOf(name), reason);
 }
 
 bool SaveFile::loadFrom(const QString &path, QString *reason)
@@ -111,9 +81,9 @@ bool SaveFile::loadBytes(const QByteArray &data, QString *reason)
 
 bool SaveFile::remove(const QString &name, QString *reason)
 {
-    if (!isValidName(name, reason))
+    if (!files().isValidName(name, reason))
         return false;
-    QFile file(pathOf(name));
+    QFile file(files().pathOf(name));
     if (!file.exists()) {
         tell(reason, QStringLiteral("There is no saved game of that name."));
         return false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "persistence/NamedFiles.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -10,17 +12,9 @@
 class SaveFile
 {
 public:
-    static QString folder();
-    static QString pathOf(const QString &name);
-
-    // A name is not empty, does not start with "." (the file would be hidden, and no list would
-    // show it), holds no path separator or control character and fits a file name, so the file
-    // lies in the folder of the saves and in its list.
-    static bool isValidName(const QString &name, QString *reason = nullptr);
-    static bool exists(const QString &name);
-    static bool canOpen(const QString &name);
-    // the names of the saved games, sorted, without ".dat"; the folder is made when missing
-    static QStringList savedGames();
+    // the folder, its paths, the names it takes (each refused in this folder's own words) and
+    // the names in it
+    static const NamedFiles &files();
 
     // The running world goes to the file through a temporary one that takes its name only when
     // the whole world reached the disk; an old save of that name stays until then.

@@ -85,7 +85,7 @@ void showFlag(QLabel *label, const QString &nation)
 
 QString errorOpening(const QString &name)
 {
-    return "Error opening file " + FighterExport::pathOf(name);
+    return "Error opening file " + FighterExport::files().pathOf(name);
 }
 
 } // namespace
@@ -482,13 +482,13 @@ void Module_Profile::exportFighter()
     }
     const QString name = shownFighterName();
     QString reason;
-    if (!FighterExport::isValidName(name, &reason)) {
+    if (!FighterExport::files().isValidName(name, &reason)) {
         dialog->tell(reason);
         return;
     }
     // the man is written whole to a side file that takes his name only at the end, so a question
     // answered with Cancel, or a failed write, leaves an old file of his name as it was
-    const bool overwrite = FighterExport::exists(name);
+    const bool overwrite = FighterExport::files().exists(name);
     if (!dialog->ask(overwrite ? "This fighter already exists. Overwrite?"
                                : "Are you sure you want to export " + name + "?"))
         return;
@@ -496,12 +496,12 @@ void Module_Profile::exportFighter()
         dialog->tell(errorOpening(name));
         return;
     }
-    dialog->tell("Fighter exported to " + FighterExport::pathOf(name) + ".");
+    dialog->tell("Fighter exported to " + FighterExport::files().pathOf(name) + ".");
 }
 
 bool Module_Profile::chooseExportFile(QString &name)
 {
-    if (!dialog->choose("Choose fighter to import:", FighterExport::exportFiles(), "Import", name))
+    if (!dialog->choose("Choose fighter to import:", FighterExport::files().names(), "Import", name))
         return false;
     if (name.isEmpty()) {
         dialog->tell("No import file selected.");
@@ -514,7 +514,7 @@ bool Module_Profile::confirmImport(const QString &name, const QString &consequen
 {
     if (!dialog->ask("Import " + name + "? \n" + consequence))
         return false;
-    if (!FighterExport::canOpen(name)) {
+    if (!FighterExport::files().canOpen(name)) {
         dialog->tell(errorOpening(name));
         return false;
     }
@@ -528,7 +528,7 @@ void Module_Profile::importIntoDatabase()
         return;
     QString reason;
     if (!FighterExport::importFreeAgent(name, &reason)) {
-        dialog->tell("The file " + FighterExport::pathOf(name) + " could not be read.\n" + reason);
+        dialog->tell("The file " + FighterExport::files().pathOf(name) + " could not be read.\n" + reason);
         return;
     }
     dialog->tell("Imported " + name + " into the Free Agents list.");
@@ -549,7 +549,7 @@ void Module_Profile::importFantasyMatch()
     QString reason;
     Entity_Event night;
     if (!FighterExport::importFantasyMatch(name, index, night, &reason)) {
-        dialog->tell("The file " + FighterExport::pathOf(name) + " could not be read.\n" + reason);
+        dialog->tell("The file " + FighterExport::files().pathOf(name) + " could not be read.\n" + reason);
         return;
     }
     dialog->tell("Imported " + name + " into a fantasy match.", "Go!");

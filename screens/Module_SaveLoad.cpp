@@ -29,7 +29,7 @@ QString quoted(const QString &name)
 
 QString errorOpening(const QString &name)
 {
-    return "Error opening file " + SaveFile::pathOf(name);
+    return "Error opening file " + SaveFile::files().pathOf(name);
 }
 
 } // namespace
@@ -96,7 +96,7 @@ void Module_SaveLoad::refreshList()
 {
     saveList->hide();
     saveList->clear();
-    saveList->addItems(SaveFile::savedGames());
+    saveList->addItems(SaveFile::files().names());
     saveList->setCurrentRow(0);
     saveList->show();
 }
@@ -120,13 +120,13 @@ void Module_SaveLoad::saveData()
         return;
     }
     QString refusal;
-    if (!SaveFile::isValidName(name, &refusal)) {
+    if (!SaveFile::files().isValidName(name, &refusal)) {
         message->tell(refusal, GameDialog::CancelButton);
         return;
     }
     // the game is written whole to a side file and only then takes the name, so a question
     // answered with Cancel, or a failed write, leaves the folder as it was
-    const bool overwrite = SaveFile::exists(name);
+    const bool overwrite = SaveFile::files().exists(name);
     if (!message->ask(overwrite ? "That file already exists. Overwrite?" : "Save as " + quoted(name) + "?"))
         return;
     if (!SaveFile::save(name, &refusal)) {
@@ -145,7 +145,7 @@ void Module_SaveLoad::loadData()
         message->tell("Please specify a file to load.", GameDialog::CancelButton);
         return;
     }
-    if (!SaveFile::canOpen(name)) {
+    if (!SaveFile::files().canOpen(name)) {
         message->tell(errorOpening(name), GameDialog::CancelButton);
         return;
     }
@@ -154,7 +154,7 @@ void Module_SaveLoad::loadData()
     // a file that the reader refuses leaves the running game as it was
     QString refusal;
     if (!SaveFile::load(name, &refusal)) {
-        message->tell("The file " + SaveFile::pathOf(name) + " could not be read.\n" + refusal,
+        message->tell("The file " + SaveFile::files().pathOf(name) + " could not be read.\n" + refusal,
                       GameDialog::CancelButton);
         return;
     }
@@ -174,7 +174,7 @@ void Module_SaveLoad::deleteData()
         return;
     QString refusal;
     if (!SaveFile::remove(name, &refusal)) {
-        message->tell("The file " + SaveFile::pathOf(name) + " could not be deleted.\n" + refusal,
+        message->tell("The file " + SaveFile::files().pathOf(name) + " could not be deleted.\n" + refusal,
                       GameDialog::CancelButton);
         return;
     }

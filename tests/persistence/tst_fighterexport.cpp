@@ -67,8 +67,8 @@ private slots:
         QString reason;
         QVERIFY2(FighterExport::write(index, &reason), qPrintable(reason));
         const QString name = gym[index].fullName();
-        QCOMPARE(FighterExport::exportFiles(), QStringList{name});
-        const QByteArray exported = fileBytes(FighterExport::pathOf(name));
+        QCOMPARE(FighterExport::files().names(), QStringList{name});
+        const QByteArray exported = fileBytes(FighterExport::files().pathOf(name));
         QCOMPARE(exported, streamed(gym[index].fighter()));
 
         // another game, further on in its ids
@@ -91,7 +91,7 @@ private slots:
         std::sort(ids.begin(), ids.end());
         QCOMPARE(ids, QList<int>({1518, 1519}));
         // the file stays as it was for the next game
-        QCOMPARE(fileBytes(FighterExport::pathOf(name)), exported);
+        QCOMPARE(fileBytes(FighterExport::files().pathOf(name)), exported);
     }
 
     // A file that holds no fighter of this game, whole and alone, is refused with its reason, and
@@ -134,7 +134,7 @@ private slots:
         QFETCH(QString, reason);
         QVERIFY(worldWith({gymMan("Home", "Man", 1400, "GKO")}, 1200).load());
         QDir().mkpath(exports);
-        QVERIFY(writeBytes(FighterExport::pathOf("Stranger"), bytes));
+        QVERIFY(writeBytes(FighterExport::files().pathOf("Stranger"), bytes));
         const QByteArray before = worldBytes();
 
         QString told, toldFantasy;
@@ -173,7 +173,7 @@ private slots:
         QString reason;
         QCOMPARE(FighterExport::write(0, &reason), written);
         QCOMPARE(reason.isEmpty(), written);
-        QCOMPARE(FighterExport::exportFiles(), written ? QStringList{first + " " + last} : QStringList());
+        QCOMPARE(FighterExport::files().names(), written ? QStringList{first + " " + last} : QStringList());
         if (!written)
             QCOMPARE(filesAround(), before);
     }

@@ -48,11 +48,11 @@ private slots:
         WorkingFolder folder;
         QString reason;
         QVERIFY2(SaveFile::save("first", &reason), qPrintable(reason));
-        QCOMPARE(fileBytes(SaveFile::pathOf("first")), first);
+        QCOMPARE(fileBytes(SaveFile::files().pathOf("first")), first);
         GameManager::instance().advanceDate();
         QVERIFY2(SaveFile::load("first", &reason), qPrintable(reason));
         QVERIFY(SaveFile::save("second", &reason));
-        QCOMPARE(fileBytes(SaveFile::pathOf("second")), first);
+        QCOMPARE(fileBytes(SaveFile::files().pathOf("second")), first);
     }
 
     // a damaged or foreign file is refused with a reason, the running world as it was, and no
@@ -103,16 +103,16 @@ private slots:
     {
         WorkingFolder folder;
         QVERIFY(SaveFile::save("keep"));
-        const QByteArray old = fileBytes(SaveFile::pathOf("keep"));
+        const QByteArray old = fileBytes(SaveFile::files().pathOf("keep"));
         QString reason;
         const auto halfway = [](QDataStream &out) {
             out.writeRawData("half", 4);
             out.setStatus(QDataStream::WriteFailed);
         };
-        QVERIFY(!DataFile::write(SaveFile::pathOf("keep"), halfway, &reason));
+        QVERIFY(!DataFile::write(SaveFile::files().pathOf("keep"), halfway, &reason));
         QVERIFY(!reason.isEmpty());
-        QCOMPARE(fileBytes(SaveFile::pathOf("keep")), old);
-        QCOMPARE(QDir(SaveFile::folder()).entryList(QDir::Files | QDir::Hidden), QStringList{"keep.dat"});
+        QCOMPARE(fileBytes(SaveFile::files().pathOf("keep")), old);
+        QCOMPARE(QDir(SaveFile::files().folder()).entryList(QDir::Files | QDir::Hidden), QStringList{"keep.dat"});
     }
 
     // a save lands in the folder of the saves and in its list, or nowhere at all
@@ -136,14 +136,14 @@ private slots:
         QFETCH(bool, valid);
         WorkingFolder folder;
         QString reason;
-        QCOMPARE(SaveFile::isValidName(name, &reason), valid);
+        QCOMPARE(SaveFile::files().isValidName(name, &reason), valid);
         QCOMPARE(reason.isEmpty(), valid);
         QCOMPARE(SaveFile::save(name, &reason), valid);
         QStringList files;
         for (QDirIterator it(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext();)
             files.append(QDir(folder.path()).relativeFilePath(it.next()));
         QCOMPARE(files, valid ? QStringList{"Resources/Saves/" + name + ".dat"} : QStringList());
-        QCOMPARE(SaveFile::savedGames(), valid ? QStringList{name} : QStringList());
+        QCOMPARE(SaveFile::files().names(), valid ? QStringList{name} : QStringList());
         QCOMPARE(SaveFile::load(name), valid);
         QCOMPARE(SaveFile::remove(name), valid);
     }

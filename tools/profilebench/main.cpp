@@ -156,7 +156,7 @@ int main(int argc, char **argv)
             err << "could not save: " << reason << "\n";
             return 1;
         }
-        out << "saved as " << SaveFile::pathOf(save) << "\n";
+        out << "saved as " << SaveFile::files().pathOf(save) << "\n";
     }
     shell.shutdown();
     return 0;
