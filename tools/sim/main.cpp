@@ -38,6 +38,8 @@
 #include <QElapsedTimer>
 #include <QTextStream>
 
+#include <optional>
+
 namespace {
 
 struct Options {
@@ -97,6 +99,21 @@ bool parse(const QStringList &args, Options &options)
     return daysGiven;
 }
 
+// A mode's options from the command line, the test clock set when they give a seed; none when
+// they make no sense, and then the usage is printed.
+template <typename ModeOptions>
+std::optional<ModeOptions> readOptions(const QStringList &args, bool (*parse)(const QStringList &, ModeOptions &))
+{
+    ModeOptions options;
+    if (!parse(args, options)) {
+        printUsage();
+        return std::nullopt;
+    }
+    if (options.seeded)
+        Random::useTestClock(options.seed);
+    return options;
+}
+
 // the default files lie beside the game, in ./Resources/Defaults
 bool defaultWorldHere()
 {
@@ -125,13 +142,10 @@ bool openWorld(const QString &load)
 
 int fightMatches(const QStringList &args)
 {
-    MatchesRun::Options options;
-    if (!MatchesRun::parse(args, options)) {
-        printUsage();
+    const std::optional<MatchesRun::Options> read = readOptions<MatchesRun::Options>(args, &MatchesRun::parse);
+    if (!read)
         return 2;
-    }
-    if (options.seeded)
-        Random::useTestClock(options.seed);
+    const MatchesRun::Options &options = *read;
     if (!openWorld({}))
         return 1;
     GameManager &world = GameManager::instance();
@@ -150,13 +164,10 @@ int fightMatches(const QStringList &args)
 // a save in which a man of the user fights tonight
 int bookANight(const QStringList &args)
 {
-    BookedNight::Options options;
-    if (!BookedNight::parse(args, options)) {
-        printUsage();
+    const std::optional<BookedNight::Options> read = readOptions<BookedNight::Options>(args, &BookedNight::parse);
+    if (!read)
         return 2;
-    }
-    if (options.seeded)
-        Random::useTestClock(options.seed);
+    const BookedNight::Options &options = *read;
     if (!openWorld(options.load))
         return 1;
     GameManager &world = GameManager::instance();
@@ -182,13 +193,10 @@ int main(int argc, char *argv[])
     if (app.arguments().value(1) == QLatin1String("booked"))
         return bookANight(app.arguments());
     QTextStream out(stdout);
-    Options options;
-    if (!parse(app.arguments(), options)) {
-        printUsage();
+    const std::optional<Options> read = readOptions<Options>(app.arguments(), &parse);
+    if (!read)
         return 2;
-    }
-    if (options.seeded)
-        Random::useTestClock(options.seed);
+    const Options &options = *read;
 
     if (!openWorld(options.load))
         return 1;
