@@ -94,14 +94,6 @@ Module_UserEvents::~Module_UserEvents()
     night.reset();
 }
 
-// The night often opens from a question (a fantasy match, a save loaded): the game's window takes
-// the keys back at once, so that Space steps without a click first.
-void Module_UserEvents::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    window()->activateWindow();
-}
-
 void Module_UserEvents::paintEvent(QPaintEvent *)
 {
     StyleSheetFile::paintBackground(this);

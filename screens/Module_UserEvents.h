@@ -59,7 +59,6 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private slots:
     // the step button and the timer lead here: the stage that is due runs

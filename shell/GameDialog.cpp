@@ -53,7 +53,11 @@ int GameDialog::run(const QString &message, bool withAccept, bool withCancel, co
     cancelButton->setVisible(withCancel);
     adjustSize();
     centreOverGame();
-    return exec();
+    const int answer = exec();
+    // the keys go back to the game's window, as a desktop's window manager would hand them back
+    if (QWidget *window = ModuleManager::instance().mainWindow())
+        window->activateWindow();
+    return answer;
 }
 
 void GameDialog::centreOverGame()
